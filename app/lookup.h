@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+
+#include "app/console.h"
+#include "app/database.h"
+#include "app/errors.h"
+
+namespace talmo {
+
+// Which query-error line a guard prints when a lookup fails.
+enum class QueryErrorLine {
+  // "Error in Query: \r\r" + statement + "\r\r": the line nearly every lookup prints.
+  plain,
+  // The plain line followed by "SQL Return Message: \r\r" + the error's message.
+  with_message,
+  // "Error in Query: " + statement + " | Error Message: " + message (third-level category).
+  with_error_message,
+};
+
+// The text of the error line for `query`'s current statement (which ends in "\n").
+std::string query_error_line(const Query& query, QueryErrorLine style, const std::string& message);
+
+// Runs `body` under a lookup guard: a failure of the tool's own kind is not passed on; the error
+// line for the cursor's current statement is printed instead. Returns false when it failed.
+template <class Body>
+bool guard_lookup(Query& query, Body&& body, QueryErrorLine style = QueryErrorLine::plain) {
+  try {
+    body();
+    return true;
+  } catch (const TalmoError& error) {
+    write_line(query_error_line(query, style, error.what()));
+    return false;
+  }
+}
+
+// Closes the cursor, sets `sql`, opens it and counts the rows; with at least one row the cursor
+// is left on the first row and the result is true. Failures raise; call it inside a guard.
+bool open_lookup(Query& query, const std::string& sql);
+
+// The named column of the first row of `sql`: "" without a row, and "" after printing the plain
+// error line when the lookup fails.
+std::string lookup_text(Query& query, const std::string& sql, const std::string& field);
+
+}  // namespace talmo

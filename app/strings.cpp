@@ -1,0 +1,153 @@
+#include "app/strings.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <limits>
+
+#include "app/errors.h"
+
+namespace talmo {
+namespace {
+
+char upper_char(char c) { return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c; }
+char lower_char(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; }
+bool is_digit(char c) { return c >= '0' && c <= '9'; }
+
+// Position of `part` in `text` from `start`, comparing ASCII letters without case.
+std::size_t find_ci(std::string_view text, std::string_view part, std::size_t start) {
+  if (part.size() > text.size()) return std::string_view::npos;
+  for (std::size_t i = start; i + part.size() <= text.size(); ++i) {
+    std::size_t k = 0;
+    while (k < part.size() && upper_char(text[i + k]) == upper_char(part[k])) ++k;
+    if (k == part.size()) return i;
+  }
+  return std::string_view::npos;
+}
+
+template <class Find>
+std::string replace_with(std::string_view text, std::string_view from, std::string_view to,
+                         Find find) {
+  if (from.empty()) return std::string(text);
+  std::string result;
+  std::size_t pos = 0;
+  for (std::size_t hit = find(text, from, 0); hit != std::string_view::npos;
+       hit = find(text, from, pos)) {
+    result.append(text.substr(pos, hit - pos));
+    result.append(to);
+    pos = hit + from.size();
+  }
+  result.append(text.substr(pos));
+  return result;
+}
+
+std::size_t find_exact(std::string_view text, std::string_view part, std::size_t start) {
+  return text.find(part, start);
+}
+
+}  // namespace
+
+std::string upper_ascii(std::string_view text) {
+  std::string result(text);
+  for (char& c : result) c = upper_char(c);
+  return result;
+}
+
+std::string lower_ascii(std::string_view text) {
+  std::string result(text);
+  for (char& c : result) c = lower_char(c);
+  return result;
+}
+
+bool equals_ci(std::string_view a, std::string_view b) {
+  if (a.size() != b.size()) return false;
+  for (std::size_t i = 0; i < a.size(); ++i) {
+    if (upper_char(a[i]) != upper_char(b[i])) return false;
+  }
+  return true;
+}
+
+bool contains(std::string_view text, std::string_view part) {
+  return text.find(part) != std::string_view::npos;
+}
+
+bool contains_ci(std::string_view text, std::string_view part) {
+  return find_ci(text, part, 0) != std::string_view::npos;
+}
+
+std::string trim(std::string_view text) {
+  std::size_t begin = 0;
+  std::size_t end = text.size();
+  while (begin < end && static_cast<unsigned char>(text[begin]) <= 0x20) ++begin;
+  while (end > begin && static_cast<unsigned char>(text[end - 1]) <= 0x20) --end;
+  return std::string(text.substr(begin, end - begin));
+}
+
+std::string replace_all(std::string_view text, std::string_view from, std::string_view to) {
+  return replace_with(text, from, to, find_exact);
+}
+
+std::string replace_all_ci(std::string_view text, std::string_view from, std::string_view to) {
+  return replace_with(text, from, to, find_ci);
+}
+
+const std::string& item_at(const StringList& list, std::size_t index) {
+  if (index >= list.size()) {
+    throw ListIndexError("List index (" + std::to_string(index) + ") out of bounds");
+  }
+  return list[index];
+}
+
+std::string item_or_empty(const StringList& list, std::size_t index) {
+  return index < list.size() ? list[index] : std::string();
+}
+
+std::int32_t to_integer(std::string_view text) {
+  std::size_t i = 0;
+  if (i < text.size() && (text[i] == '+' || text[i] == '-')) ++i;
+  const std::size_t digits_start = i;
+  while (i < text.size() && is_digit(text[i])) ++i;
+  const bool well_formed = i == text.size() && i > digits_start;
+  if (well_formed) {
+    std::int64_t value = 0;
+    bool in_range = true;
+    for (std::size_t k = digits_start; k < text.size() && in_range; ++k) {
+      value = value * 10 + (text[k] - '0');
+      in_range = value <= std::int64_t{std::numeric_limits<std::int32_t>::max()} + 1;
+    }
+    if (text[0] == '-') value = -value;
+    if (in_range && value >= std::numeric_limits<std::int32_t>::min() &&
+        value <= std::numeric_limits<std::int32_t>::max()) {
+      return static_cast<std::int32_t>(value);
+    }
+  }
+  throw ConversionError("\"" + std::string(text) + "\" is an invalid integer");
+}
+
+double to_number(std::string_view text) {
+  std::size_t i = 0;
+  auto skip_digits = [&] {
+    const std::size_t start = i;
+    while (i < text.size() && is_digit(text[i])) ++i;
+    return i > start;
+  };
+  if (i < text.size() && (text[i] == '+' || text[i] == '-')) ++i;
+  bool ok = skip_digits();
+  if (ok && i < text.size() && text[i] == '.') {
+    ++i;
+    ok = skip_digits();
+  }
+  if (ok && i < text.size() && (text[i] == 'e' || text[i] == 'E')) {
+    ++i;
+    if (i < text.size() && (text[i] == '+' || text[i] == '-')) ++i;
+    ok = skip_digits();
+  }
+  if (ok && i == text.size()) {
+    const std::string copy(text);
+    errno = 0;
+    const double value = std::strtod(copy.c_str(), nullptr);
+    if (errno != ERANGE) return value;
+  }
+  throw ConversionError("\"" + std::string(text) + "\" is an invalid float");
+}
+
+}  // namespace talmo
