@@ -14,18 +14,20 @@ struct Connection::Handle {
 Connection::Connection() : handle_(std::make_unique<Handle>()) {}
 
 Connection::~Connection() {
-  if (handle_->mysql != nullptr) mysql_close(handle_->mysql);
+  if (handle_->mysql != nullptr)
+    mysql_close(handle_->mysql);
 }
 
-void Connection::open(const std::string& host, const std::string& user,
-                      const std::string& password, const std::string& database) {
+void Connection::open(const std::string& host, const std::string& user, const std::string& password,
+                      const std::string& database) {
   if (handle_->mysql != nullptr) {
     mysql_close(handle_->mysql);
     handle_->mysql = nullptr;
     handle_->connected = false;
   }
   handle_->mysql = mysql_init(nullptr);
-  if (handle_->mysql == nullptr) throw DatabaseError("Out of memory while connecting");
+  if (handle_->mysql == nullptr)
+    throw DatabaseError("Out of memory while connecting");
   mysql_options(handle_->mysql, MYSQL_SET_CHARSET_NAME, "utf8");
   // Port 0: the client library's default, so MYSQL_TCP_PORT can point the tool elsewhere.
   if (mysql_real_connect(handle_->mysql, host.c_str(), user.c_str(), password.c_str(),
@@ -35,7 +37,9 @@ void Connection::open(const std::string& host, const std::string& user,
   handle_->connected = true;
 }
 
-bool Connection::connected() const { return handle_->connected; }
+bool Connection::connected() const {
+  return handle_->connected;
+}
 
 Query::Query(Connection& connection) : connection_(connection) {}
 
@@ -55,17 +59,20 @@ void Query::set_sql(const std::string& text) {
     if (c == '\r' || c == '\n') {
       sql_lines_.push_back(line);
       line.clear();
-      if (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n') ++i;
+      if (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n')
+        ++i;
     } else {
       line += c;
     }
   }
-  if (!line.empty()) sql_lines_.push_back(line);
+  if (!line.empty())
+    sql_lines_.push_back(line);
 }
 
 std::string Query::sql_text() const {
   std::string text;
-  for (const std::string& line : sql_lines_) text += line + "\n";
+  for (const std::string& line : sql_lines_)
+    text += line + "\n";
   return text;
 }
 
@@ -77,7 +84,8 @@ void Query::open() {
   }
   std::string statement;
   for (const std::string& line : sql_lines_) {
-    if (!statement.empty()) statement += '\n';
+    if (!statement.empty())
+      statement += '\n';
     statement += line;
   }
   if (mysql_real_query(mysql, statement.data(), statement.size()) != 0) {
@@ -85,17 +93,20 @@ void Query::open() {
   }
   MYSQL_RES* result = mysql_store_result(mysql);
   if (result == nullptr) {
-    if (mysql_field_count(mysql) != 0) throw DatabaseError(mysql_error(mysql));
+    if (mysql_field_count(mysql) != 0)
+      throw DatabaseError(mysql_error(mysql));
     throw DatabaseError("The statement returned no rows");
   }
   const unsigned int field_count = mysql_num_fields(result);
   MYSQL_FIELD* fields = mysql_fetch_fields(result);
-  for (unsigned int f = 0; f < field_count; ++f) column_names_.emplace_back(fields[f].name);
+  for (unsigned int f = 0; f < field_count; ++f)
+    column_names_.emplace_back(fields[f].name);
   while (MYSQL_ROW row = mysql_fetch_row(result)) {
     const unsigned long* lengths = mysql_fetch_lengths(result);
     std::vector<std::optional<std::string>> cells(field_count);
     for (unsigned int f = 0; f < field_count; ++f) {
-      if (row[f] != nullptr) cells[f] = std::string(row[f], lengths[f]);
+      if (row[f] != nullptr)
+        cells[f] = std::string(row[f], lengths[f]);
     }
     rows_.push_back(std::move(cells));
   }
@@ -104,20 +115,30 @@ void Query::open() {
   position_ = 0;
 }
 
-void Query::first() { position_ = 0; }
-
-void Query::last() { position_ = rows_.empty() ? 0 : rows_.size() - 1; }
-
-void Query::next() {
-  if (position_ < rows_.size()) ++position_;
+void Query::first() {
+  position_ = 0;
 }
 
-bool Query::eof() const { return position_ >= rows_.size(); }
+void Query::last() {
+  position_ = rows_.empty() ? 0 : rows_.size() - 1;
+}
 
-std::int64_t Query::record_count() const { return static_cast<std::int64_t>(rows_.size()); }
+void Query::next() {
+  if (position_ < rows_.size())
+    ++position_;
+}
+
+bool Query::eof() const {
+  return position_ >= rows_.size();
+}
+
+std::int64_t Query::record_count() const {
+  return static_cast<std::int64_t>(rows_.size());
+}
 
 const std::optional<std::string>* Query::current_cell(const std::string& name) const {
-  if (!active_) throw DatabaseError("Operation cannot be performed on an inactive dataset");
+  if (!active_)
+    throw DatabaseError("Operation cannot be performed on an inactive dataset");
   for (std::size_t f = 0; f < column_names_.size(); ++f) {
     if (equals_ci(column_names_[f], name)) {
       return position_ < rows_.size() ? &rows_[position_][f] : nullptr;
@@ -133,9 +154,12 @@ std::string Query::field_text(const std::string& name) const {
 
 bool Query::field_bool(const std::string& name) const {
   const std::string text = trim(field_text(name));
-  if (text.empty()) return false;
-  if (equals_ci(text, "true")) return true;
-  if (equals_ci(text, "false")) return false;
+  if (text.empty())
+    return false;
+  if (equals_ci(text, "true"))
+    return true;
+  if (equals_ci(text, "false"))
+    return false;
   return to_integer(text) != 0;
 }
 

@@ -2,8 +2,7 @@
 
 namespace talmo {
 
-std::string query_error_line(const Query& query, QueryErrorLine style,
-                             const std::string& message) {
+std::string query_error_line(const Query& query, QueryErrorLine style, const std::string& message) {
   switch (style) {
     case QueryErrorLine::plain:
       return "Error in Query: \r\r" + query.sql_text() + "\r\r";
@@ -20,7 +19,8 @@ bool open_lookup(Query& query, const std::string& sql) {
   query.set_sql(sql);
   query.open();
   query.last();
-  if (query.record_count() <= 0) return false;
+  if (query.record_count() <= 0)
+    return false;
   query.first();
   return true;
 }
@@ -28,7 +28,8 @@ bool open_lookup(Query& query, const std::string& sql) {
 std::string lookup_text(Query& query, const std::string& sql, const std::string& field) {
   std::string result;
   guard_lookup(query, [&] {
-    if (open_lookup(query, sql)) result = query.field_text(field);
+    if (open_lookup(query, sql))
+      result = query.field_text(field);
   });
   return result;
 }

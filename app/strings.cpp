@@ -9,17 +9,26 @@
 namespace talmo {
 namespace {
 
-char upper_char(char c) { return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c; }
-char lower_char(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; }
-bool is_digit(char c) { return c >= '0' && c <= '9'; }
+char upper_char(char c) {
+  return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c;
+}
+char lower_char(char c) {
+  return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
+}
+bool is_digit(char c) {
+  return c >= '0' && c <= '9';
+}
 
 // Position of `part` in `text` from `start`, comparing ASCII letters without case.
 std::size_t find_ci(std::string_view text, std::string_view part, std::size_t start) {
-  if (part.size() > text.size()) return std::string_view::npos;
+  if (part.size() > text.size())
+    return std::string_view::npos;
   for (std::size_t i = start; i + part.size() <= text.size(); ++i) {
     std::size_t k = 0;
-    while (k < part.size() && upper_char(text[i + k]) == upper_char(part[k])) ++k;
-    if (k == part.size()) return i;
+    while (k < part.size() && upper_char(text[i + k]) == upper_char(part[k]))
+      ++k;
+    if (k == part.size())
+      return i;
   }
   return std::string_view::npos;
 }
@@ -27,7 +36,8 @@ std::size_t find_ci(std::string_view text, std::string_view part, std::size_t st
 template <class Find>
 std::string replace_with(std::string_view text, std::string_view from, std::string_view to,
                          Find find) {
-  if (from.empty()) return std::string(text);
+  if (from.empty())
+    return std::string(text);
   std::string result;
   std::size_t pos = 0;
   for (std::size_t hit = find(text, from, 0); hit != std::string_view::npos;
@@ -48,20 +58,24 @@ std::size_t find_exact(std::string_view text, std::string_view part, std::size_t
 
 std::string upper_ascii(std::string_view text) {
   std::string result(text);
-  for (char& c : result) c = upper_char(c);
+  for (char& c : result)
+    c = upper_char(c);
   return result;
 }
 
 std::string lower_ascii(std::string_view text) {
   std::string result(text);
-  for (char& c : result) c = lower_char(c);
+  for (char& c : result)
+    c = lower_char(c);
   return result;
 }
 
 bool equals_ci(std::string_view a, std::string_view b) {
-  if (a.size() != b.size()) return false;
+  if (a.size() != b.size())
+    return false;
   for (std::size_t i = 0; i < a.size(); ++i) {
-    if (upper_char(a[i]) != upper_char(b[i])) return false;
+    if (upper_char(a[i]) != upper_char(b[i]))
+      return false;
   }
   return true;
 }
@@ -77,8 +91,10 @@ bool contains_ci(std::string_view text, std::string_view part) {
 std::string trim(std::string_view text) {
   std::size_t begin = 0;
   std::size_t end = text.size();
-  while (begin < end && static_cast<unsigned char>(text[begin]) <= 0x20) ++begin;
-  while (end > begin && static_cast<unsigned char>(text[end - 1]) <= 0x20) --end;
+  while (begin < end && static_cast<unsigned char>(text[begin]) <= 0x20)
+    ++begin;
+  while (end > begin && static_cast<unsigned char>(text[end - 1]) <= 0x20)
+    --end;
   return std::string(text.substr(begin, end - begin));
 }
 
@@ -103,9 +119,11 @@ std::string item_or_empty(const StringList& list, std::size_t index) {
 
 std::int32_t to_integer(std::string_view text) {
   std::size_t i = 0;
-  if (i < text.size() && (text[i] == '+' || text[i] == '-')) ++i;
+  if (i < text.size() && (text[i] == '+' || text[i] == '-'))
+    ++i;
   const std::size_t digits_start = i;
-  while (i < text.size() && is_digit(text[i])) ++i;
+  while (i < text.size() && is_digit(text[i]))
+    ++i;
   const bool well_formed = i == text.size() && i > digits_start;
   if (well_formed) {
     std::int64_t value = 0;
@@ -114,7 +132,8 @@ std::int32_t to_integer(std::string_view text) {
       value = value * 10 + (text[k] - '0');
       in_range = value <= std::int64_t{std::numeric_limits<std::int32_t>::max()} + 1;
     }
-    if (text[0] == '-') value = -value;
+    if (text[0] == '-')
+      value = -value;
     if (in_range && value >= std::numeric_limits<std::int32_t>::min() &&
         value <= std::numeric_limits<std::int32_t>::max()) {
       return static_cast<std::int32_t>(value);
@@ -127,10 +146,12 @@ double to_number(std::string_view text) {
   std::size_t i = 0;
   auto skip_digits = [&] {
     const std::size_t start = i;
-    while (i < text.size() && is_digit(text[i])) ++i;
+    while (i < text.size() && is_digit(text[i]))
+      ++i;
     return i > start;
   };
-  if (i < text.size() && (text[i] == '+' || text[i] == '-')) ++i;
+  if (i < text.size() && (text[i] == '+' || text[i] == '-'))
+    ++i;
   bool ok = skip_digits();
   if (ok && i < text.size() && text[i] == '.') {
     ++i;
@@ -138,14 +159,16 @@ double to_number(std::string_view text) {
   }
   if (ok && i < text.size() && (text[i] == 'e' || text[i] == 'E')) {
     ++i;
-    if (i < text.size() && (text[i] == '+' || text[i] == '-')) ++i;
+    if (i < text.size() && (text[i] == '+' || text[i] == '-'))
+      ++i;
     ok = skip_digits();
   }
   if (ok && i == text.size()) {
     const std::string copy(text);
     errno = 0;
     const double value = std::strtod(copy.c_str(), nullptr);
-    if (errno != ERANGE) return value;
+    if (errno != ERANGE)
+      return value;
   }
   throw ConversionError("\"" + std::string(text) + "\" is an invalid float");
 }

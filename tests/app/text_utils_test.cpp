@@ -1,0 +1,104 @@
+#include "app/text_utils.h"
+
+#include <gtest/gtest.h>
+
+namespace talmo {
+namespace {
+
+TEST(SiteAddresses, HostAndBaseAddressPerSiteCode) {
+  struct Case {
+    std::string site, name, url;
+  };
+  for (const Case& c : std::vector<Case>{
+           {"hu", "www.kelvor.hu", "https://www.kelvor.hu"},
+           {"HU", "www.kelvor.hu", "https://www.kelvor.hu"},
+           {"sk", "www.kelvor.sk", "https://www.kelvor.sk"},
+           {"Cz", "www.kelvor.cz", "https://www.kelvor.cz"},
+           {"pl", "", "https://"},
+           {"", "", "https://"},
+       }) {
+    EXPECT_EQ(GETSITENAME(c.site), c.name) << c.site;
+    EXPECT_EQ(GETSITEURL(c.site), c.url) << c.site;
+  }
+}
+
+TEST(StringExtract, KeepsEmptyPiecesAndTrimsOnlyTheLast) {
+  struct Case {
+    std::string input;
+    char delimiter;
+    StringList pieces;
+  };
+  for (const Case& c : std::vector<Case>{
+           {"a|b", '|', {"a", "b"}},
+           {"|a", '|', {"", "a"}},
+           {"a|", '|', {"a", ""}},
+           {"a||b", '|', {"a", "", "b"}},
+           {"|", '|', {"", ""}},
+           {" a |b ", '|', {" a ", "b"}},
+           {"  single  ", '|', {"single"}},
+           {"", '|', {""}},
+           {"1|x|1^1|y|2", '^', {"1|x|1", "1|y|2"}},
+           {"\ta\t|\tb\t", '|', {"\ta\t", "b"}},
+       }) {
+    StringList list{"left over"};
+    STRINGEXTRACT(c.input, list, c.delimiter);
+    EXPECT_EQ(list, c.pieces) << c.input;
+  }
+}
+
+TEST(CountOccurences, CountsNonOverlappingHits) {
+  EXPECT_EQ(COUNTOCCURENCES("aa", "aaaa"), 2);
+  EXPECT_EQ(COUNTOCCURENCES("aa", "aaa"), 1);
+  EXPECT_EQ(COUNTOCCURENCES(".", "1.234.567,89"), 2);
+  EXPECT_EQ(COUNTOCCURENCES("", "abc"), 0);
+  EXPECT_EQ(COUNTOCCURENCES("x", ""), 0);
+  EXPECT_EQ(COUNTOCCURENCES("x", "abc"), 0);
+}
+
+TEST(MakeValidNumericValue, KeepsOnlyTheLastSeparatorAsDecimalPoint) {
+  struct Case {
+    std::string input, output;
+  };
+  for (const Case& c : std::vector<Case>{
+           {"1 234,50", "1234.50"},
+           {"1.234.567,89", "1234567.89"},
+           {"12,5", "12.5"},
+           {"1,234,567", "1234.567"},
+           {"99990", "99990"},
+           {"Kalkulálás alatt", "0"},
+           {"ár: KALKUL", "0"},
+           {"", "0"},
+           {" ", ""},
+           {"12a,5", "12a.5"},
+       }) {
+    EXPECT_EQ(MAKEVALIDNUMERICVALUE(c.input), c.output) << c.input;
+  }
+}
+
+TEST(GetVar, RowFragmentsPerSite) {
+  EXPECT_EQ(GETVAR("megnevezes_szoveg", "hu"),
+            "<div id=\"sor\"><div id=\"megnevezes\"><p id=\"megnevezes_szoveg\"><strong>");
+  EXPECT_EQ(GETVAR("megnevezes_szoveg", "cz"),
+            "<div id=\"linia\"><div id=\"oznacenie\"><p id=\"oznacenie_text\"><strong>");
+  EXPECT_EQ(GETVAR("megnevezes_leiras", "hu"),
+            "</strong></p></div><div id=\"leiras\"><p id=\"leiras_szoveg\" "
+            "itemprop=\"ingredients\">");
+  EXPECT_EQ(GETVAR("megnevezes_leiras", "sk"),
+            "</strong></p></div><div id=\"popis\"><p id=\"popis_text\" itemprop=\"ingredients\">");
+  EXPECT_EQ(GETVAR("leiras_szoveg", "sk"), "</p></div></div>");
+  EXPECT_EQ(GETVAR("leiras_szoveg", "HU"), "");  // site codes are compared exactly
+  EXPECT_EQ(GETVAR("other", "hu"), "");
+}
+
+TEST(TextDelimiters, CsvQuotingAndTildes) {
+  EXPECT_EQ(ADDTEXTDELIMITER2("15.6\" HD"), "\"15.6\"\" HD\"");
+  EXPECT_EQ(ADDTEXTDELIMITER2(""), "\"\"");
+  EXPECT_EQ(ADDTEXTDELIMITER2("\"\""), "\"\"\"\"\"\"");
+  EXPECT_EQ(ADDTEXTDELIMITER2("a,b"), "\"a,b\"");
+  EXPECT_EQ(ADDTEXTDELIMITER("a\"b"), "~a\"b~");
+  EXPECT_EQ(GETITEMDELIMITER(), '|');
+  EXPECT_EQ(GETENTRYDELIMITER(), '^');
+}
+
+}  // namespace
+}  // namespace talmo
