@@ -1,0 +1,102 @@
+// The tool's cursor against the private server, as every database test uses it: a fixture
+// written by the command-line client must read back unchanged through the tool's connection.
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <vector>
+
+#include "app/database.h"
+#include "app/errors.h"
+#include "tests/support/test_support.h"
+
+namespace talmo::testing {
+namespace {
+
+class Database : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    PrivateMariaDb& server = PrivateMariaDb::instance();
+    server.reset_database();
+    server.run_sql(
+        "CREATE TABLE harness_rows (id INT NOT NULL AUTO_INCREMENT PRIMARY KEY, "
+        "label VARCHAR(64) NULL, flag TINYINT NULL);\n"
+        "INSERT INTO harness_rows (id, label, flag) VALUES "
+        "(9, 'kilenc', 1), (10, NULL, 0), (100, 'Szállítási idõ | ő ű', NULL), (2, '', 2);");
+  }
+
+  // The named column of every row, in the statement's order.
+  StringList column(const std::string& sql, const std::string& name) {
+    db_.query.set_sql(sql);
+    db_.query.open();
+    StringList values;
+    for (db_.query.first(); !db_.query.eof(); db_.query.next())
+      values.push_back(db_.query.field_text(name));
+    return values;
+  }
+
+  // Opened before SetUp resets the database, as in every fixture that holds a session.
+  DbSession db_;
+};
+
+TEST_F(Database, NewestIdFirstIsNumericOrder) {
+  EXPECT_EQ(column("SELECT id FROM harness_rows ORDER BY id DESC;", "id"),
+            (StringList{"100", "10", "9", "2"}));
+  EXPECT_EQ(column("SELECT id FROM harness_rows ORDER BY id DESC LIMIT 1;", "id"),
+            (StringList{"100"}));
+}
+
+TEST_F(Database, TextsNullsAndFlagsReadBackUnchanged) {
+  struct Case {
+    std::string id, label;
+    bool flag;
+  };
+  for (const Case& c : std::vector<Case>{
+           {"9", "kilenc", true},
+           {"10", "", false},
+           {"100", "Szállítási idõ | ő ű", false},
+           {"2", "", true},
+       }) {
+    db_.query.set_sql("SELECT label, flag FROM harness_rows WHERE id='" + c.id + "';");
+    db_.query.open();
+    ASSERT_EQ(db_.query.record_count(), 1) << c.id;
+    EXPECT_EQ(db_.query.field_text("label"), c.label) << c.id;
+    EXPECT_EQ(db_.query.field_bool("flag"), c.flag) << c.id;
+  }
+}
+
+TEST_F(Database, ResetLeavesTheEmptySchemaForOpenSessions) {
+  PrivateMariaDb::instance().reset_database();
+  EXPECT_EQ(column("SELECT COUNT(*) AS n FROM laptop_adatbazis;", "n"), (StringList{"0"}));
+  try {
+    column("SELECT id FROM harness_rows;", "id");
+    ADD_FAILURE() << "harness_rows survived the reset";
+  } catch (const DatabaseError& error) {
+    EXPECT_STREQ(error.what(), "Table 'uj_db.harness_rows' doesn't exist");
+  }
+}
+
+TEST_F(Database, FailedFixtureStatementRaisesTheClientsMessage) {
+  try {
+    PrivateMariaDb::instance().run_sql("INSERT INTO harness_rows (id) VALUES (1);\nSELEC 1;");
+    ADD_FAILURE() << "no error raised";
+  } catch (const std::runtime_error& error) {
+    EXPECT_NE(std::string(error.what()).find("ERROR 1064 (42000) at line 2"), std::string::npos)
+        << error.what();
+  }
+}
+
+// The end-to-end tests compare the tool's refusal line whole; a server that skipped name
+// resolution would name the login 'exprtr'@'127.0.0.1' instead.
+TEST_F(Database, RefusedLoginIsNamedFromLocalhost) {
+  Connection connection;
+  try {
+    connection.open("127.0.0.1", "exprtr", "wrong", "uj_db");
+    ADD_FAILURE() << "login accepted";
+  } catch (const DatabaseError& error) {
+    EXPECT_STREQ(error.what(), "Access denied for user 'exprtr'@'localhost' (using password: YES)");
+  }
+  EXPECT_FALSE(connection.connected());
+}
+
+}  // namespace
+}  // namespace talmo::testing
