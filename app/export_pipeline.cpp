@@ -139,7 +139,8 @@ void GENERATE_TALMO(Query& VAR_QUERY, StringList& list, const std::string& SITE)
   TALMO_DB = 0;
   OSZLOP_DB = 0;
   GENERATE_TALMO_HEADER();
-  walk_items(VAR_QUERY, list, SITE, "% :: EXPORT :: (Type: TALMO :: Site: ", start, true, nullptr);
+  walk_items(VAR_QUERY, list, SITE, "% :: EXPORT :: (Type: TALMO :: Site: ", start, true,
+             [&](const std::string& IDX) { GENERATE_TALMO_LINE(VAR_QUERY, IDX, SITE); });
   TALMO2XML();
 }
 

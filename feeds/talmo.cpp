@@ -3,7 +3,12 @@
 #include "app/column_table.h"
 #include "app/console.h"
 #include "app/file_output.h"
+#include "app/lookup.h"
 #include "app/run_state.h"
+#include "description/short_description.h"
+#include "product/pricing.h"
+#include "product/product_links.h"
+#include "product/product_name.h"
 
 namespace talmo {
 namespace {
@@ -34,6 +39,46 @@ std::optional<std::string> talmo_element(const std::string& name, const std::str
 }
 
 }  // namespace
+
+std::string GENERATE_TALMO_CIKKSZAM(Query& VAR_QUERY, const std::string& IDX,
+                                    const std::string& SITE) {
+  (void)SITE;
+  std::string result;
+  guard_lookup(VAR_QUERY, [&] {
+    if (open_lookup(VAR_QUERY, "SELECT gyarto, tipusmegnevezes FROM laptop_adatbazis WHERE id='" +
+                                   IDX + "';")) {
+      result = trim(VAR_QUERY.field_text("gyarto")) + " " +
+               trim(VAR_QUERY.field_text("tipusmegnevezes"));
+    }
+  });
+  return result;
+}
+
+std::string GENERATE_TALMO_BRUTTO_AR(Query& VAR_QUERY, const std::string& IDX,
+                                     const std::string& SITE) {
+  return GENERATE_PRICE_WITH_TAX(VAR_QUERY, IDX, SITE, true, false);
+}
+
+std::string GENERATE_TALMO_SZALLITASI_IDO(Query&, const std::string&, const std::string&) {
+  return "1 munkanap";
+}
+
+std::string GENERATE_TALMO_SZALLITASI_KOLTSEG(Query&, const std::string&, const std::string&) {
+  return "890";
+}
+
+std::string GENERATE_TALMO_LINE(Query& VAR_QUERY, const std::string& IDX, const std::string& SITE) {
+  // Every field runs its own statements on the shared cursor, strictly in column order.
+  StringList values;
+  for (auto field :
+       {GENERATE_TALMO_CIKKSZAM, GENERATE_TALMO_TERMEKNEV, GENERATE_TALMO_TERMEKLEIRAS_SHORT,
+        GENERATE_TALMO_BRUTTO_AR, GENERATE_TALMO_FOTOLINK, GENERATE_TALMO_TERMEKLINK,
+        GENERATE_TALMO_SZALLITASI_IDO, GENERATE_TALMO_SZALLITASI_KOLTSEG}) {
+    values.push_back(field(VAR_QUERY, IDX, SITE));
+  }
+  add_item_row(TALMOP, TALMO_DB, values);
+  return "";
+}
 
 void GENERATE_TALMO_HEADER() {
   add_header_row(TALMOP, TALMO_DB, kTalmoColumns);
