@@ -1,0 +1,57 @@
+// The TALMO line builder's own fields against the private database.
+#include <gtest/gtest.h>
+
+#include "app/run_state.h"
+#include "feeds/talmo.h"
+#include "tests/support/test_support.h"
+
+namespace talmo::testing {
+namespace {
+
+class TalmoFields : public ::testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    PrivateMariaDb::instance().reset_database();
+    PrivateMariaDb::instance().run_sql(
+        "INSERT INTO laptop_adatbazis (id, published, sorszam, gyarto, tipusmegnevezes) VALUES "
+        "(1, 1, '11000', '  Asus\\t', ' K55VD  '), (2, 1, '11001', NULL, 'X1');");
+  }
+
+  DbSession db_;
+};
+
+TEST_F(TalmoFields, ArticleLabelTrimsBothParts) {
+  CapturedStdout out;
+  EXPECT_EQ(GENERATE_TALMO_CIKKSZAM(db_.query, "1", "hu"), "Asus K55VD");
+  EXPECT_EQ(GENERATE_TALMO_CIKKSZAM(db_.query, "2", "hu"), " X1");
+  EXPECT_EQ(GENERATE_TALMO_CIKKSZAM(db_.query, "9", "hu"), "");
+  EXPECT_EQ(out.text(), "");
+  EXPECT_EQ(GENERATE_TALMO_CIKKSZAM(db_.query, "1'", "hu"), "");
+  EXPECT_EQ(out.text(),
+            "Error in Query: \r\rSELECT gyarto, tipusmegnevezes FROM laptop_adatbazis WHERE "
+            "id='1'';\n\r\r\n");
+}
+
+TEST_F(TalmoFields, LineAppendsOneRowOfEightFieldsInColumnOrder) {
+  TALMO_DB = 0;
+  OSZLOP_DB = 0;
+  GENERATE_TALMO_HEADER();
+  CapturedStdout out;  // no tax row: the price computation reports and gives "0"
+  EXPECT_EQ(GENERATE_TALMO_LINE(db_.query, "9", "hu"), "");
+  ASSERT_EQ(TALMO_DB, 2);
+  ASSERT_EQ(TALMOP.size(), 2u);
+  const StringList& row = TALMOP[1].OSZLOP;
+  ASSERT_EQ(row.size(), 8u);
+  EXPECT_EQ(row[0], "");
+  EXPECT_EQ(row[1], " - ");
+  EXPECT_EQ(row[2], "");
+  EXPECT_EQ(row[3], "0");
+  EXPECT_EQ(row[4], "https://www.kelvor.hu/images/stories/virtuemart/product/");
+  EXPECT_EQ(row[5],
+            "https://www.kelvor.hu//-elado/?utm_source=talmo&utm_medium=&utm_campaign=konverzio");
+  EXPECT_EQ(row[6], "1 munkanap");
+  EXPECT_EQ(row[7], "890");
+}
+
+}  // namespace
+}  // namespace talmo::testing
