@@ -37,7 +37,7 @@ const std::string kPrompts =
     "Start TALMO export? (y/n): Start ARUKERESO export? (y/n): Start GRANDO export? (y/n): "
     "Start VATERA export? (y/n): Start HEUREKA.SK export? (y/n): ";
 const std::string kClosing = "Software Finished succesfully. Press ENTER to quit";
-const std::string kLogin = "127.0.0.1\n3306\nexprtr\nT7d3wq415M\nuj_db\n";
+const std::string kLogin = kDefaultConfig;
 
 // Three products: 3 is a clearance item, 2 is not published.
 const std::string kCatalogue =
@@ -50,15 +50,7 @@ class ToolRun : public ::testing::Test {
   void SetUp() override {
     PrivateMariaDb::instance().reset_database();
     PrivateMariaDb::instance().run_sql(kCatalogue);
-    make_run_directory(dir_.path());
-  }
-
-  // The executable's directory as the shop sets it up: config.dat and both export folders.
-  static void make_run_directory(const std::string& dir) {
-    write_file(dir + "/config.dat", kLogin);
-    ::mkdir((dir + "/export").c_str(), 0755);
-    ::mkdir((dir + "/export/hu").c_str(), 0755);
-    ::mkdir((dir + "/export/sk").c_str(), 0755);
+    prepare_run_directory(dir_.path());
   }
 
   RunResult run(const std::string& answers, const StringList& arguments = {}) {

@@ -1,7 +1,5 @@
 // The TALMO feed end to end: a small catalogue, the tool run with one "y", the whole file and the
 // whole console compared with what the shop expects.
-#include <sys/stat.h>
-
 #include <gtest/gtest.h>
 
 #include "tests/support/test_support.h"
@@ -14,10 +12,7 @@ TEST(TalmoExport, SmallCatalogueGivesTheExpectedFeedAndConsole) {
   PrivateMariaDb::instance().run_sql_file(source_path("tests/e2e/fixtures/talmo_small.sql"));
   TempDir dir;
   const std::string path = dir.path() + "/";
-  write_file(path + "config.dat", "127.0.0.1\n3306\nexprtr\nT7d3wq415M\nuj_db\n");
-  ::mkdir((path + "export").c_str(), 0755);
-  ::mkdir((path + "export/hu").c_str(), 0755);
-  ::mkdir((path + "export/sk").c_str(), 0755);
+  prepare_run_directory(dir.path());
 
   const RunResult result = run_tool(dir.path(), "y\nn\nn\nn\nn\n\n");
 

@@ -1,7 +1,5 @@
 // The TALMO feed of a realistic little catalogue, run as the operators run it: the whole feed file
 // and the whole console must be what the shop expects (see the fixture for the price sums).
-#include <sys/stat.h>
-
 #include <gtest/gtest.h>
 
 #include "tests/support/test_support.h"
@@ -15,10 +13,7 @@ TEST(TalmoFeed, CatalogueGivesTheWholeFeedAndConsole) {
   PrivateMariaDb::instance().run_sql_file(source_path("tests/e2e/fixtures/talmo_catalogue.sql"));
   TempDir dir;
   const std::string path = dir.path() + "/";
-  write_file(path + "config.dat", "127.0.0.1\n3306\nexprtr\nT7d3wq415M\nuj_db\n");
-  ASSERT_EQ(::mkdir((path + "export").c_str(), 0755), 0);
-  ASSERT_EQ(::mkdir((path + "export/hu").c_str(), 0755), 0);
-  ASSERT_EQ(::mkdir((path + "export/sk").c_str(), 0755), 0);
+  prepare_run_directory(dir.path());
 
   // TALMO only, then ENTER for the closing message.
   const RunResult result = run_tool(dir.path(), "y\nn\nn\nn\nn\n\n");

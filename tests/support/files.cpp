@@ -48,6 +48,12 @@ void write_file(const std::string& path, const std::string& content) {
     throw std::runtime_error("cannot write " + path);
 }
 
+void prepare_run_directory(const std::string& dir) {
+  write_file(dir + "/config.dat", kDefaultConfig);
+  std::filesystem::create_directories(dir + "/export/hu");
+  std::filesystem::create_directories(dir + "/export/sk");
+}
+
 bool file_exists(const std::string& path) {
   struct stat info {};
   return ::lstat(path.c_str(), &info) == 0;

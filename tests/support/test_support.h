@@ -92,6 +92,11 @@ std::string read_file(const std::string& path);
 void write_file(const std::string& path, const std::string& content);
 // Whether anything (file, directory, link) exists at `path`.
 bool file_exists(const std::string& path);
+// The shop's login as a first run writes it into config.dat.
+inline constexpr const char* kDefaultConfig = "127.0.0.1\n3306\nexprtr\nT7d3wq415M\nuj_db\n";
+// Sets `dir` up as the tool's directory in the shop: config.dat with the default login (which
+// reaches the private server) and the folders export/hu and export/sk.
+void prepare_run_directory(const std::string& dir);
 // The path of `relative` inside the source tree (TALMO_SOURCE_DIR + "/" + relative).
 std::string source_path(const std::string& relative);
 
