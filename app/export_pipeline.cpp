@@ -151,7 +151,9 @@ void GENERATE_ARUKERESO(Query& VAR_QUERY, StringList& list, const std::string& S
   StringList lines{GENERATE_ARUKERESO_HEADER()};
   drop_unpublished(VAR_QUERY, list, "Product with id: ");
   walk_items(VAR_QUERY, list, SITE, "% :: EXPORT :: (Type: ARUKERESO :: Site: ", start, true,
-             nullptr);
+             [&](const std::string& IDX) {
+               lines.push_back(GENERATE_ARUKERESO_LINE(VAR_QUERY, IDX, SITE));
+             });
   save_lines(csv_path(SITE, "arukereso.csv"), lines);
 }
 
