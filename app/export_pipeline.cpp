@@ -11,11 +11,12 @@
 #include "feeds/grando.h"
 #include "feeds/heureka_sk.h"
 #include "feeds/talmo.h"
+#include "feeds/vatera.h"
 
 namespace talmo {
 namespace {
 
-// Builds one item of a feed from its product id; empty while the feed has no line builder.
+// Builds one item of a feed from its product id.
 using ItemBuilder = std::function<void(const std::string& IDX)>;
 
 // Deletes unpublished ids in place, announcing each id with `prefix`.
@@ -43,8 +44,7 @@ void walk_items(Query& query, const StringList& list, const std::string& site,
                              clock_milliseconds()));
     if (skip_grando_only && ISONLYFORGRANDO(query, list[i]))
       continue;
-    if (build_item)
-      build_item(list[i]);
+    build_item(list[i]);
   }
 }
 
@@ -167,7 +167,7 @@ void GENERATE_GRANDO(Query& VAR_QUERY, StringList& list, const std::string& SITE
   const std::int64_t start = clock_milliseconds();
   // Clearance items stay in: Grando is the feed that carries them.
   walk_items(VAR_QUERY, list, SITE, "% :: EXPORT :: (Type: GRANDO :: Site: ", start, false,
-             nullptr);
+             [&](const std::string& IDX) { GENERATE_GRANDO_LINE(VAR_QUERY, IDX, SITE); });
   GRANDO2XML();
 }
 
@@ -177,7 +177,9 @@ void GENERATE_VATERA(Query& VAR_QUERY, StringList& list, const std::string& SITE
   const std::int64_t start = clock_milliseconds();
   StringList lines;
   drop_unpublished(VAR_QUERY, list, "Product with id: ");
-  walk_items(VAR_QUERY, list, SITE, "% :: EXPORT :: (Type: VATERA :: Site: ", start, true, nullptr);
+  walk_items(
+      VAR_QUERY, list, SITE, "% :: EXPORT :: (Type: VATERA :: Site: ", start, true,
+      [&](const std::string& IDX) { lines.push_back(GENERATE_VATERA_LINE(VAR_QUERY, IDX, SITE)); });
   write_line("Saving output file: " + csv_path(SITE, "vatera.csv"));
   save_lines(csv_path(SITE, "vatera.csv"), lines);
 }
@@ -191,7 +193,8 @@ void GENERATE_HEUREKA_SK(Query& VAR_QUERY, StringList& list, const std::string& 
   GENERATE_HEUREKASK_HEADER();
   drop_unpublished(VAR_QUERY, list, "Product with id: ");
   walk_items(VAR_QUERY, list, SITE,
-             "% :: EXPORT :: Progress windows (Type: HEUREKA.SK :: Site: ", start, false, nullptr);
+             "% :: EXPORT :: Progress windows (Type: HEUREKA.SK :: Site: ", start, false,
+             [&](const std::string& IDX) { GENERATE_HEUREKASK_LINE(VAR_QUERY, IDX, SITE); });
   HEUREKASK2XML();
 }
 

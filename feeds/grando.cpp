@@ -1,9 +1,22 @@
 #include "feeds/grando.h"
 
+#include <cstddef>
+
 #include "app/column_table.h"
+#include "app/errors.h"
+#include "app/export_pipeline.h"
 #include "app/file_output.h"
+#include "app/lookup.h"
 #include "app/run_state.h"
 #include "app/strings.h"
+#include "description/long_description.h"
+#include "feeds/arukereso.h"
+#include "feeds/grando_categories.h"
+#include "product/categories.h"
+#include "product/price_rounding.h"
+#include "product/pricing.h"
+#include "product/product_links.h"
+#include "product/product_name.h"
 
 namespace talmo {
 namespace {
@@ -11,15 +24,43 @@ namespace {
 const StringList kGrandoColumns = {"name",      "product_id",     "price",     "description",
                                    "page_link", "discount_price", "warrantyf", "manufacturer",
                                    "image_url", "category"};
+constexpr std::size_t kPriceColumn = 2;
+constexpr std::size_t kDiscountPriceColumn = 5;
 
-// Grando's warranty codes: 7 for twelve months, 8 for twenty-four, 9 for anything else. A plain
-// substring test, so "120" counts as twelve.
-std::string grando_warranty_code(const std::string& warranty) {
-  if (contains(warranty, "12"))
-    return "7";
-  if (contains(warranty, "24"))
-    return "8";
-  return "9";
+// The kind suffix of a Grando name: Grando files every laptop as a notebook unless it is an
+// ultrabook; tablets and all-in-ones keep the shop's own category name.
+std::string GETUTOTAG(const std::string& BE, bool ULTRA) {
+  if (ULTRA)
+    return "LAPTOP, ULTRABOOK";
+  if (contains(upper_ascii(BE), "LAPTOP"))
+    return "LAPTOP, NOTEBOOK";
+  return BE;
+}
+
+// Whether the product is filed under the shop's level-0 "Ultrabook" category. A shop without
+// that category is not asked about the product at all.
+bool in_ultrabook_category(Query& VAR_QUERY, const std::string& IDX) {
+  const std::string ULTRA_ID = GETCATEGORYIDFROMNAMEANDLEVEL(VAR_QUERY, "Ultrabook", "0");
+  bool ULTRA = false;
+  if (ULTRA_ID == "-1")
+    return ULTRA;
+  guard_lookup(VAR_QUERY, [&] {
+    ULTRA = open_lookup(VAR_QUERY,
+                        "SELECT prod_cat_id FROM product_categories WHERE prod_cat_type_id='0' "
+                        "AND prod_cat_product_id='" +
+                            IDX + "' " + "AND prod_cat_category_id='" + ULTRA_ID + "';");
+  });
+  return ULTRA;
+}
+
+// Grando shows the higher of the two prices as the list price; a price that is not a whole
+// number leaves both as they are.
+void apply_price_rule(std::string& price, const std::string& discount_price) {
+  try {
+    if (to_integer(discount_price) > to_integer(price))
+      price = discount_price;
+  } catch (const ConversionError&) {
+  }
 }
 
 std::optional<std::string> grando_element(const std::string& name, const std::string& value) {
@@ -35,8 +76,118 @@ std::optional<std::string> grando_element(const std::string& name, const std::st
 
 }  // namespace
 
+std::string GENERATE_GRANDO_NAME(Query& VAR_QUERY, const std::string& IDX,
+                                 const std::string& SITE) {
+  const bool ULTRA = in_ultrabook_category(VAR_QUERY, IDX);
+  const std::string UTOTAG = GETUTOTAG(GETMAINCATEGORY(VAR_QUERY, IDX), ULTRA);
+  const std::string TNEV = TERMEKNEV_GENERATOR(VAR_QUERY, IDX, SITE);
+  std::string GY;
+  std::string N;
+  guard_lookup(VAR_QUERY, [&] {
+    if (open_lookup(VAR_QUERY,
+                    "SELECT gyarto, nev FROM laptop_adatbazis WHERE id='" + IDX + "';")) {
+      GY = VAR_QUERY.field_text("gyarto");
+      N = VAR_QUERY.field_text("nev");
+    }
+  });
+  return GY + " " + N + " - " + TNEV + " " + UTOTAG;
+}
+
+std::string GENERATE_GRANDO_PRODUCT_ID(Query& VAR_QUERY, const std::string& IDX,
+                                       const std::string& SITE) {
+  if (ISONLYFORGRANDO(VAR_QUERY, IDX)) {
+    return lookup_text(VAR_QUERY, "SELECT sorszam FROM laptop_adatbazis WHERE id='" + IDX + "';",
+                       "sorszam");
+  }
+  return GENERATE_PRODUCT_SKU(VAR_QUERY, IDX, SITE) + " " + "LAPTOP, NOTEBOOK";
+}
+
+std::string GENERATE_GRANDO_ADDPERCENT(std::int32_t PERCENT, const std::string& OSSZEG) {
+  std::int32_t value = 0;
+  try {
+    value = to_integer(OSSZEG);
+  } catch (const ConversionError&) {
+    return OSSZEG;
+  }
+  // Any 32-bit amount raised by any 32-bit percent fits a 64-bit integer.
+  const auto raised = static_cast<std::int64_t>(round_half_even((PERCENT / 100.0 + 1.0) * value));
+  std::string result = std::to_string(raised);
+  const std::size_t figures = result.size() - (raised < 0 ? 1 : 0);
+  if (figures >= 2)
+    result.replace(result.size() - 2, 2, "90");
+  return result;
+}
+
+std::string GENERATE_GRANDO_PRICE(Query& VAR_QUERY, const std::string& IDX,
+                                  const std::string& SITE) {
+  return GENERATE_GRANDO_ADDPERCENT(4, GENERATE_PRICE_WITH_TAX(VAR_QUERY, IDX, SITE, false, true));
+}
+
+std::string GENERATE_GRANDO_DISCOUNT_PRICE(Query& VAR_QUERY, const std::string& IDX,
+                                           const std::string& SITE) {
+  return GENERATE_GRANDO_ADDPERCENT(4, GENERATE_PRICE_WITH_TAX(VAR_QUERY, IDX, SITE, true, false));
+}
+
+std::string GENERATE_GRANDO_DESCRIPTION(Query& VAR_QUERY, const std::string& IDX,
+                                        const std::string& SITE) {
+  return GENERATE_ARUKERESO_DESCRIPTION(VAR_QUERY, IDX, SITE);
+}
+
+std::string GENERATE_GRANDO_WARRANTYF(Query& VAR_QUERY, const std::string& IDX,
+                                      const std::string&) {
+  return trim(lookup_text(
+      VAR_QUERY, "SELECT garancia FROM laptop_adatbazis WHERE id='" + IDX + "';", "garancia"));
+}
+
+std::string GENERATE_GRANDO_MANUFACTURER(Query& VAR_QUERY, const std::string& IDX,
+                                         const std::string& SITE) {
+  return GENERATE_ARUKERESO_MANUFACTURER(VAR_QUERY, IDX, SITE);
+}
+
+std::string GENERATE_GRANDO_CATEGORY(Query& VAR_QUERY, const std::string& IDX, const std::string&) {
+  bool found = false;
+  std::string manufacturer;
+  guard_lookup(VAR_QUERY, [&] {
+    if (open_lookup(VAR_QUERY, "SELECT gyarto FROM laptop_adatbazis WHERE id='" + IDX + "';")) {
+      manufacturer = trim(VAR_QUERY.field_text("gyarto"));
+      found = true;
+    }
+  });
+  if (!found)
+    return "";
+  // Each lookup reuses the cursor, so they run one after another once `gyarto` is read.
+  const std::string series = GETTHIRDCATEGORY(VAR_QUERY, IDX);
+  const std::string main_kind = GETMAINCATEGORY(VAR_QUERY, IDX);
+  const std::string second_kind = GETSECONDMAINCATEGORY(VAR_QUERY, IDX);
+  return GET_CATEGORY_NUMBER(manufacturer, series, main_kind, second_kind);
+}
+
+std::string grando_warranty_code(const std::string& warranty) {
+  if (contains(warranty, "12"))
+    return "7";
+  if (contains(warranty, "24"))
+    return "8";
+  return "9";
+}
+
 void GENERATE_GRANDO_HEADER() {
   add_header_row(GRANDO, GRANDO_DB, kGrandoColumns);
+}
+
+std::string GENERATE_GRANDO_LINE(Query& VAR_QUERY, const std::string& IDX,
+                                 const std::string& SITE) {
+  // Every field runs its own statements on the shared cursor, strictly in column order.
+  StringList values;
+  for (auto field :
+       {GENERATE_GRANDO_NAME, GENERATE_GRANDO_PRODUCT_ID, GENERATE_GRANDO_PRICE,
+        GENERATE_GRANDO_DESCRIPTION, GENERATE_GRANDO_PAGE_LINK, GENERATE_GRANDO_DISCOUNT_PRICE,
+        GENERATE_GRANDO_WARRANTYF, GENERATE_GRANDO_MANUFACTURER, GENERATE_GRANDO_IMAGE_URL,
+        GENERATE_GRANDO_CATEGORY}) {
+    values.push_back(field(VAR_QUERY, IDX, SITE));
+  }
+  apply_price_rule(values[kPriceColumn], values[kDiscountPriceColumn]);
+  add_item_row(GRANDO, GRANDO_DB, values);
+  return "";
 }
 
 void GRANDO2XML() {

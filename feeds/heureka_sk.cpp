@@ -5,7 +5,17 @@
 #include "app/column_table.h"
 #include "app/console.h"
 #include "app/file_output.h"
+#include "app/lookup.h"
 #include "app/run_state.h"
+#include "description/short_description.h"
+#include "feeds/arukereso.h"
+#include "feeds/heureka_sk_params.h"
+#include "feeds/talmo.h"
+#include "product/categories.h"
+#include "product/pricing.h"
+#include "product/product_links.h"
+#include "product/product_name.h"
+#include "product/translation.h"
 
 namespace talmo {
 namespace {
@@ -36,7 +46,119 @@ std::optional<std::string> heureka_element(const std::string& name, const std::s
   return std::nullopt;
 }
 
+const std::string kCategoryPath = "Heureka.sk | Elektronika | Počítače a kancelária | ";
+
+struct CategoryLevel {
+  const char* key;  // looked for in the upper-cased translated main category, upper-cased
+  const char* level;
+};
+
+// Tested in order, the first hit wins; any other kind is named by its own translation.
+constexpr CategoryLevel kCategoryLevels[] = {
+    {"noteb", "Notebooky"},
+    {"tablet", "Tablet"},
+};
+
+constexpr std::size_t kPriceColumn = 7;
+
 }  // namespace
+
+std::string GENERATE_HEUREKASK_ITEM_ID(Query& VAR_QUERY, const std::string& IDX,
+                                       const std::string& SITE) {
+  return replace_all(GENERATE_PRODUCT_SKU(VAR_QUERY, IDX, SITE), "/", "-");
+}
+
+std::string GENERATE_HEUREKASK_PRODUCTNAME(Query& VAR_QUERY, const std::string& IDX,
+                                           const std::string& SITE) {
+  return GENERATE_TALMO_CIKKSZAM(VAR_QUERY, IDX, SITE);
+}
+
+std::string GENERATE_HEUREKASK_PRODUCT(Query& VAR_QUERY, const std::string& IDX,
+                                       const std::string& SITE) {
+  std::string result;
+  guard_lookup(VAR_QUERY, [&] {
+    if (!open_lookup(VAR_QUERY,
+                     "SELECT gyarto, tipusmegnevezes, extra_mezo, kiegeszitok FROM "
+                     "laptop_adatbazis WHERE id='" +
+                         IDX + "';"))
+      return;
+    // Everything is read before the name generator and the translations reuse the cursor.
+    const std::string GY = VAR_QUERY.field_text("gyarto");
+    const std::string T = VAR_QUERY.field_text("tipusmegnevezes");
+    const std::string EXTRA = VAR_QUERY.field_text("extra_mezo");
+    std::string KIEG = trim(VAR_QUERY.field_text("kiegeszitok"));
+    if (!KIEG.empty())
+      KIEG = trim(replace_all(KIEG, ";", ","));
+    result = GY + " " + T + " - " + TERMEKNEV_GENERATOR(VAR_QUERY, IDX, SITE);
+    if (!KIEG.empty())
+      result += " " + GETTRANSLATION(VAR_QUERY, KIEG, SITE);
+    if (!EXTRA.empty())
+      result += " " + GETTRANSLATION(VAR_QUERY, EXTRA, SITE);
+  });
+  return result;
+}
+
+std::string GENERATE_HEUREKASK_PRICE_VAT(Query& VAR_QUERY, const std::string& IDX,
+                                         const std::string& SITE) {
+  return GENERATE_PRICE_WITH_TAX(VAR_QUERY, IDX, SITE, true, false);
+}
+
+std::string GENERATE_HEUREKASK_MANUFACTURER(Query& VAR_QUERY, const std::string& IDX,
+                                            const std::string& SITE) {
+  return GENERATE_ARUKERESO_MANUFACTURER(VAR_QUERY, IDX, SITE);
+}
+
+std::string GENERATE_HEUREKASK_CATEGORYTEXT(Query& VAR_QUERY, const std::string& IDX,
+                                            const std::string& SITE) {
+  const std::string M = GENERATE_ARUKERESO_MANUFACTURER(VAR_QUERY, IDX, SITE);
+  const std::string C = GETTRANSLATION(VAR_QUERY, GETMAINCATEGORY(VAR_QUERY, IDX), SITE);
+  const std::string upper_c = upper_ascii(C);
+  for (const CategoryLevel& entry : kCategoryLevels) {
+    if (contains(upper_c, upper_ascii(entry.key)))
+      return kCategoryPath + entry.level + " | " + M;
+  }
+  return kCategoryPath + C + " | " + M;
+}
+
+std::string GENERATE_HEUREKASK_DELIVERY_DATE(Query&, const std::string&, const std::string&) {
+  return "3";
+}
+
+std::string GENERATE_HEUREKASK_DELIVERY(Query&, const std::string&, const std::string&) {
+  return "<DELIVERY_ID>UPS</DELIVERY_ID><DELIVERY_PRICE>4,40</DELIVERY_PRICE>"
+         "<DELIVERY_COD>4,40</DELIVERY_COD>";
+}
+
+std::string GENERATE_HEUREKASK_EAN(Query&, const std::string&, const std::string&) {
+  return "";
+}
+
+std::string GENERATE_HEUREKASK_VAT(Query&, const std::string&, const std::string&) {
+  return "0,20";
+}
+
+std::string heureka_price_decimals(const std::string& price) {
+  const std::size_t point = price.find('.');
+  const std::size_t decimals = point == std::string::npos ? price.size() : price.size() - point - 1;
+  return replace_all(decimals == 1 ? price + "0" : price, ".", ",");
+}
+
+std::string GENERATE_HEUREKASK_LINE(Query& VAR_QUERY, const std::string& IDX,
+                                    const std::string& SITE) {
+  // Every field runs its own statements on the shared cursor, strictly in column order.
+  StringList values;
+  for (auto field :
+       {GENERATE_HEUREKASK_ITEM_ID, GENERATE_HEUREKASK_PRODUCTNAME, GENERATE_HEUREKASK_PRODUCT,
+        GENERATE_HEUREKASK_DESCRIPTION, GENERATE_HEUREKASK_URL, GENERATE_HEUREKASK_IMGURL,
+        GENERATE_HEUREKASK_IMGURL_ALTERNATIVE, GENERATE_HEUREKASK_PRICE_VAT,
+        GENERATE_HEUREKASK_PARAM, GENERATE_HEUREKASK_MANUFACTURER, GENERATE_HEUREKASK_CATEGORYTEXT,
+        GENERATE_HEUREKASK_DELIVERY_DATE, GENERATE_HEUREKASK_DELIVERY, GENERATE_HEUREKASK_EAN}) {
+    values.push_back(field(VAR_QUERY, IDX, SITE));
+  }
+  values[kPriceColumn] = heureka_price_decimals(values[kPriceColumn]);
+  add_item_row(HEUREKASK, HEUREKASK_DB, values);
+  return "";
+}
 
 void GENERATE_HEUREKASK_HEADER() {
   add_header_row(HEUREKASK, HEUREKASK_DB, kHeurekaColumns);

@@ -1,6 +1,57 @@
 #pragma once
 
+#include <string>
+
+#include "app/database.h"
+
 namespace talmo {
+
+// The Heureka.sk fields of one product, each (cursor, product id, site) -> text; texts meant for
+// the reader are in Slovak, looked up for SITE.
+
+// The SKU with every "/" turned into "-" (e.g. "12345-Asus"); "" without a row.
+std::string GENERATE_HEUREKASK_ITEM_ID(Query& VAR_QUERY, const std::string& IDX,
+                                       const std::string& SITE);
+// Manufacturer and model, the same label as the TALMO feed's article number.
+std::string GENERATE_HEUREKASK_PRODUCTNAME(Query& VAR_QUERY, const std::string& IDX,
+                                           const std::string& SITE);
+// `gyarto` + " " + `tipusmegnevezes` + " - " + the component list, then the translated
+// accessories (";" read as ",") and the translated `extra_mezo`, each after a blank when stored.
+// "" without a row; a failed statement prints the query-error line and keeps what was built.
+std::string GENERATE_HEUREKASK_PRODUCT(Query& VAR_QUERY, const std::string& IDX,
+                                       const std::string& SITE);
+// The gross price with "." as decimal point; a hand-set fixed price wins over the computed one.
+std::string GENERATE_HEUREKASK_PRICE_VAT(Query& VAR_QUERY, const std::string& IDX,
+                                         const std::string& SITE);
+// The manufacturer, trimmed, as the Árukereső feed prints it.
+std::string GENERATE_HEUREKASK_MANUFACTURER(Query& VAR_QUERY, const std::string& IDX,
+                                            const std::string& SITE);
+// "Heureka.sk | Elektronika | Počítače a kancelária | " + the translated main category's level
+// ("Notebooky", "Tablet" or the translated name itself) + " | " + the manufacturer.
+std::string GENERATE_HEUREKASK_CATEGORYTEXT(Query& VAR_QUERY, const std::string& IDX,
+                                            const std::string& SITE);
+// Always "3"; the XML writes the delivery date element empty whatever this says.
+std::string GENERATE_HEUREKASK_DELIVERY_DATE(Query& VAR_QUERY, const std::string& IDX,
+                                             const std::string& SITE);
+// Always the UPS delivery block, price and cash on delivery 4,40 each, as ready-made XML.
+std::string GENERATE_HEUREKASK_DELIVERY(Query& VAR_QUERY, const std::string& IDX,
+                                        const std::string& SITE);
+// Always "": the shop sends no EAN codes, but the element must be present.
+std::string GENERATE_HEUREKASK_EAN(Query& VAR_QUERY, const std::string& IDX,
+                                   const std::string& SITE);
+// Always "0,20", the Slovak VAT rate. Not a column of the feed; kept as the stated rate.
+std::string GENERATE_HEUREKASK_VAT(Query& VAR_QUERY, const std::string& IDX,
+                                   const std::string& SITE);
+
+// A price text the way Heureka.sk reads it: a single figure after the point gets a "0" after it,
+// then every "." becomes "," ("499.9" gives "499,90", "1200" stays). A one-character price
+// without a point gets the "0" as well ("9" gives "90"): the rule is kept as it always ran.
+std::string heureka_price_decimals(const std::string& price);
+
+// Appends one product's row of fourteen fields to the HEUREKASK table, the price with its
+// decimal comma. Returns "".
+std::string GENERATE_HEUREKASK_LINE(Query& VAR_QUERY, const std::string& IDX,
+                                    const std::string& SITE);
 
 // Starts the Heureka.sk column table: row 0 with the fourteen element names, OSZLOP_DB = 14.
 void GENERATE_HEUREKASK_HEADER();
