@@ -1,6 +1,7 @@
 #pragma once
 
-// Hand-written HTML of one description row and of a search icon, for comparing whole sections.
+// Hand-written HTML of the description's rows, icons and details tables, typed out from the
+// shop's pages for comparing whole sections.
 
 #include <string>
 
@@ -27,5 +28,23 @@ inline std::string search_icon(const std::string& keyword, const std::string& fi
          keyword + "\"><img alt=\"Kattints ha keresni akarsz erre a típusra\" " +
          "src=\"images/leiras/" + file + "\" /></a>";
 }
+
+// The inline styles of the details tables: label paragraphs, value paragraphs, cells by their
+// left and bottom border widths, and the table up to its id attribute.
+inline const std::string kLabelStyle =
+    "style=\"font-size: 12px; line-height: 15px; margin-left: 5px; font-family: 'Federo', Arial, "
+    "sans-serif;\"";
+inline const std::string kValueStyle =
+    "style=\"font-size: 14px; text-align: justify; margin-left: 15px; font-family: 'Federo', "
+    "Arial, sans-serif; line-height: 16px;\"";
+inline std::string cell_style(const std::string& left, const std::string& bottom) {
+  return "align=\"left\" style=\"border-style: solid; border-color: black; border-top-width: 0px; "
+         "border-left-width: " +
+         left + "; border-right-width: 0px; border-bottom-width: " + bottom + ";\"";
+}
+inline const std::string kTableStyle =
+    "align=\"left\" cellpadding=\"5\" cellspacing=\"0\" style=\"width: 100%; border-style: solid; "
+    "border-color: black; border-top-width: 2px; border-left-width: 2px; border-right-width: 1px; "
+    "border-bottom-width: 0px; display: none;\" ";
 
 }  // namespace talmo::testing

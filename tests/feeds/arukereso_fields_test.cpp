@@ -28,13 +28,6 @@ class ArukeresoFields : public ::testing::Test {
   DbSession db_;
 };
 
-TEST(ArukeresoHeader, ElevenQuotedNamesJoinedByCommas) {
-  EXPECT_EQ(GENERATE_ARUKERESO_HEADER(),
-            "\"manufacturer\",\"name\",\"category\",\"product_url\",\"price\",\"image_url\","
-            "\"image_url_2\",\"image_url_3\",\"description\",\"delivery_time\","
-            "\"product_number\"");
-}
-
 TEST_F(ArukeresoFields, ManufacturerTrimmedProductNumberAsStored) {
   struct Case {
     std::string id;
