@@ -25,6 +25,10 @@ bool open_lookup(Query& query, const std::string& sql) {
   return true;
 }
 
+std::string product_columns_sql(const std::string& columns, const std::string& IDX) {
+  return "SELECT " + columns + " FROM laptop_adatbazis WHERE id='" + IDX + "';";
+}
+
 std::string lookup_text(Query& query, const std::string& sql, const std::string& field) {
   std::string result;
   guard_lookup(query, [&] {

@@ -38,6 +38,10 @@ bool guard_lookup(Query& query, Body&& body, QueryErrorLine style = QueryErrorLi
 // is left on the first row and the result is true. Failures raise; call it inside a guard.
 bool open_lookup(Query& query, const std::string& sql);
 
+// "SELECT " + columns + " FROM laptop_adatbazis WHERE id='" + IDX + "';": the product-table
+// statement most lookups run.
+std::string product_columns_sql(const std::string& columns, const std::string& IDX);
+
 // The named column of the first row of `sql`: "" without a row, and "" after printing the plain
 // error line when the lookup fails.
 std::string lookup_text(Query& query, const std::string& sql, const std::string& field);

@@ -84,33 +84,27 @@ struct BrandIcon {
 };
 
 const BrandIcon kProcessorIcons[] = {
-    {"intel", "i7", "intel_i7.png", "intel+i7"},
-    {"intel", "i5", "intel_i5.png", "intel+i5"},
-    {"intel", "i3", "intel_i3.png", "intel+i3"},
-    {"intel", "", "intel.png", "intel"},
-    {"nvidia", "tegra", "nvidia_tegra.png", "nvidia+tegra"},
-    {"nvidia", "", "nvidia.png", "nvidia"},
-    {"amd", "", "amd.png", "amd"},
+    {"intel", "i7", "images/leiras/intel_i7.png", "intel+i7"},
+    {"intel", "i5", "images/leiras/intel_i5.png", "intel+i5"},
+    {"intel", "i3", "images/leiras/intel_i3.png", "intel+i3"},
+    {"intel", "", "images/leiras/intel.png", "intel"},
+    {"nvidia", "tegra", "images/leiras/nvidia_tegra.png", "nvidia+tegra"},
+    {"nvidia", "", "images/leiras/nvidia.png", "nvidia"},
+    {"amd", "", "images/leiras/amd.png", "amd"},
 };
 const BrandIcon kGraphicsIcons[] = {
-    {"nvidia", "", "nvidia.png", "nvidia"},
-    {"amd", "radeon", "amd_radeon.png", "amd+radeon"},
-    {"amd", "firepro", "amd_firepro.png", "amd+firepro"},
-    {"amd", "", "amd.png", "amd"},
-    {"intel", "", "intel.png", "intel"},
+    {"nvidia", "", "images/leiras/nvidia.png", "nvidia"},
+    {"amd", "radeon", "images/leiras/amd_radeon.png", "amd+radeon"},
+    {"amd", "firepro", "images/leiras/amd_firepro.png", "amd+firepro"},
+    {"amd", "", "images/leiras/amd.png", "amd"},
+    {"intel", "", "images/leiras/intel.png", "intel"},
 };
-
-// The icon beside a component name that opens the shop's search for `keyword`, on a line of its
-// own.
-std::string search_link(const std::string& keyword, const std::string& icon) {
-  return "<br />" + search_icon_link(keyword, "images/leiras/" + icon);
-}
 
 std::string brand_link(std::span<const BrandIcon> icons, const std::string& maker,
                        const std::string& type) {
   for (const BrandIcon& brand : icons) {
     if (contains_ci(maker, brand.maker) && (*brand.type == '\0' || contains_ci(type, brand.type)))
-      return search_link(brand.keyword, brand.icon);
+      return search_icon_line(brand.keyword, brand.icon);
   }
   return "";
 }
@@ -160,8 +154,7 @@ std::string run_section(Query& query, const std::string& IDX, const std::string&
   SectionParts parts;
   guard_lookup(query, [&] {
     std::string stored;
-    const bool found = open_lookup(query, std::string("SELECT ") + section.column +
-                                              " FROM laptop_adatbazis WHERE id='" + IDX + "';");
+    const bool found = open_lookup(query, product_columns_sql(section.column, IDX));
     if (found)
       stored = query.field_text(section.column);
     fill(found, stored, parts);
@@ -200,9 +193,9 @@ std::string GENERATELEIRAS_KIJELZO(Query& VAR_QUERY, const std::string& IDX,
         parts.one_line = line;
         std::string links;
         if (equals_ci(item_or_empty(items, 1), "full hd"))
-          links += search_link("full+hd", "fullhd.png");
+          links += search_icon_line("full+hd", "images/leiras/fullhd.png");
         if (contains_ci(line, "3d"))
-          links += search_link("3d", "3d.png");
+          links += search_icon_line("3d", "images/leiras/3d.png");
         parts.links = links;
         if (!found)
           return;
@@ -237,7 +230,7 @@ std::string GENERATELEIRAS_MEREVLEMEZ(Query& VAR_QUERY, const std::string& IDX,
                      [&](bool found, const std::string& stored, SectionParts& parts) {
                        parts.one_line = BUILD_MEREVLEMEZ(stored);
                        if (contains_ci(parts.one_line, "ssd"))
-                         parts.links = search_link("ssd", "ssd.png");
+                         parts.links = search_icon_line("ssd", "images/leiras/ssd.png");
                        if (found)
                          parts.details = entry_details(VAR_QUERY, SITE, kDisk, stored, kDiskRows);
                      });

@@ -15,4 +15,9 @@ inline std::string search_icon_link(const std::string& keyword, const std::strin
          "<img alt=\"Kattints ha keresni akarsz erre a típusra\" src=\"" + icon + "\" />" + "</a>";
 }
 
+// The same icon on a line of its own, as it follows a component's name.
+inline std::string search_icon_line(const std::string& keyword, const std::string& icon) {
+  return "<br />" + search_icon_link(keyword, icon);
+}
+
 }  // namespace talmo

@@ -42,7 +42,7 @@ const OsArticle kOsArticles[] = {
 
 // The product's stored `column`; "" when the product has no row. Raises: call it in a guard.
 std::string read_product_column(Query& query, const std::string& column, const std::string& IDX) {
-  if (!open_lookup(query, "SELECT " + column + " FROM laptop_adatbazis WHERE id='" + IDX + "';"))
+  if (!open_lookup(query, product_columns_sql(column, IDX)))
     return "";
   return query.field_text(column);
 }
@@ -105,7 +105,7 @@ InstalledSystems read_installed_systems(const std::string& stored) {
     found.names.push_back(name);
     for (const OsIcon& os : kOsIcons) {
       if (contains_ci(name, os.word)) {
-        found.icons += "<br />" + search_icon_link(os.keyword, os.icon);
+        found.icons += search_icon_line(os.keyword, os.icon);
         break;
       }
     }
@@ -120,7 +120,7 @@ std::string GENERATELEIRAS_OPTIKAIMEGHAJTO(Query& VAR_QUERY, const std::string& 
   // Tested on the stored text, so a drive marked absent still shows the Blu-ray icon.
   return built_section(VAR_QUERY, IDX, SITE, "optikai_meghajto", "Optikai meghajtó",
                        "Optikai meghajtó nélkül", "blu",
-                       "<br />" + search_icon_link("blu-ray", "images/leiras/bluray.png"));
+                       search_icon_line("blu-ray", "images/leiras/bluray.png"));
 }
 
 std::string GENERATELEIRAS_OPERACIOSRENDSZER(Query& VAR_QUERY, const std::string& IDX,

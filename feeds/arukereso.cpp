@@ -1,5 +1,6 @@
 #include "feeds/arukereso.h"
 
+#include "app/field_values.h"
 #include "app/lookup.h"
 #include "app/strings.h"
 #include "app/text_utils.h"
@@ -74,17 +75,13 @@ std::string GENERATE_ARUKERESO_HEADER() {
 
 std::string GENERATE_ARUKERESO_LINE(Query& VAR_QUERY, const std::string& IDX,
                                     const std::string& SITE) {
-  // The fields run their statements on the shared cursor strictly in column order.
-  StringList fields;
-  for (auto field :
-       {GENERATE_ARUKERESO_MANUFACTURER, GENERATE_ARUKERESO_NAME, GENERATE_ARUKERESO_CATEGORY,
-        GENERATE_ARUKERESO_PRODUCT_URL, GENERATE_ARUKERESO_PRICE, GENERATE_ARUKERESO_IMAGE_URL,
-        GENERATE_ARUKERESO_IMAGE_URL_2, GENERATE_ARUKERESO_IMAGE_URL_3,
-        GENERATE_ARUKERESO_DESCRIPTION, GENERATE_ARUKERESO_DELIVERY_TIME,
-        GENERATE_ARUKERESO_PRODUCT_NUMBER}) {
-    fields.push_back(field(VAR_QUERY, IDX, SITE));
-  }
-  return csv_line(fields);
+  return csv_line(field_values(
+      {GENERATE_ARUKERESO_MANUFACTURER, GENERATE_ARUKERESO_NAME, GENERATE_ARUKERESO_CATEGORY,
+       GENERATE_ARUKERESO_PRODUCT_URL, GENERATE_ARUKERESO_PRICE, GENERATE_ARUKERESO_IMAGE_URL,
+       GENERATE_ARUKERESO_IMAGE_URL_2, GENERATE_ARUKERESO_IMAGE_URL_3,
+       GENERATE_ARUKERESO_DESCRIPTION, GENERATE_ARUKERESO_DELIVERY_TIME,
+       GENERATE_ARUKERESO_PRODUCT_NUMBER},
+      VAR_QUERY, IDX, SITE));
 }
 
 }  // namespace talmo

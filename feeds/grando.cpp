@@ -5,6 +5,7 @@
 #include "app/column_table.h"
 #include "app/errors.h"
 #include "app/export_pipeline.h"
+#include "app/field_values.h"
 #include "app/file_output.h"
 #include "app/lookup.h"
 #include "app/run_state.h"
@@ -176,15 +177,12 @@ void GENERATE_GRANDO_HEADER() {
 
 std::string GENERATE_GRANDO_LINE(Query& VAR_QUERY, const std::string& IDX,
                                  const std::string& SITE) {
-  // Every field runs its own statements on the shared cursor, strictly in column order.
-  StringList values;
-  for (auto field :
-       {GENERATE_GRANDO_NAME, GENERATE_GRANDO_PRODUCT_ID, GENERATE_GRANDO_PRICE,
-        GENERATE_GRANDO_DESCRIPTION, GENERATE_GRANDO_PAGE_LINK, GENERATE_GRANDO_DISCOUNT_PRICE,
-        GENERATE_GRANDO_WARRANTYF, GENERATE_GRANDO_MANUFACTURER, GENERATE_GRANDO_IMAGE_URL,
-        GENERATE_GRANDO_CATEGORY}) {
-    values.push_back(field(VAR_QUERY, IDX, SITE));
-  }
+  StringList values = field_values(
+      {GENERATE_GRANDO_NAME, GENERATE_GRANDO_PRODUCT_ID, GENERATE_GRANDO_PRICE,
+       GENERATE_GRANDO_DESCRIPTION, GENERATE_GRANDO_PAGE_LINK, GENERATE_GRANDO_DISCOUNT_PRICE,
+       GENERATE_GRANDO_WARRANTYF, GENERATE_GRANDO_MANUFACTURER, GENERATE_GRANDO_IMAGE_URL,
+       GENERATE_GRANDO_CATEGORY},
+      VAR_QUERY, IDX, SITE);
   apply_price_rule(values[kPriceColumn], values[kDiscountPriceColumn]);
   add_item_row(GRANDO, GRANDO_DB, values);
   return "";

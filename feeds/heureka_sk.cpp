@@ -4,6 +4,7 @@
 
 #include "app/column_table.h"
 #include "app/console.h"
+#include "app/field_values.h"
 #include "app/file_output.h"
 #include "app/lookup.h"
 #include "app/run_state.h"
@@ -145,16 +146,13 @@ std::string heureka_price_decimals(const std::string& price) {
 
 std::string GENERATE_HEUREKASK_LINE(Query& VAR_QUERY, const std::string& IDX,
                                     const std::string& SITE) {
-  // Every field runs its own statements on the shared cursor, strictly in column order.
-  StringList values;
-  for (auto field :
-       {GENERATE_HEUREKASK_ITEM_ID, GENERATE_HEUREKASK_PRODUCTNAME, GENERATE_HEUREKASK_PRODUCT,
-        GENERATE_HEUREKASK_DESCRIPTION, GENERATE_HEUREKASK_URL, GENERATE_HEUREKASK_IMGURL,
-        GENERATE_HEUREKASK_IMGURL_ALTERNATIVE, GENERATE_HEUREKASK_PRICE_VAT,
-        GENERATE_HEUREKASK_PARAM, GENERATE_HEUREKASK_MANUFACTURER, GENERATE_HEUREKASK_CATEGORYTEXT,
-        GENERATE_HEUREKASK_DELIVERY_DATE, GENERATE_HEUREKASK_DELIVERY, GENERATE_HEUREKASK_EAN}) {
-    values.push_back(field(VAR_QUERY, IDX, SITE));
-  }
+  StringList values = field_values(
+      {GENERATE_HEUREKASK_ITEM_ID, GENERATE_HEUREKASK_PRODUCTNAME, GENERATE_HEUREKASK_PRODUCT,
+       GENERATE_HEUREKASK_DESCRIPTION, GENERATE_HEUREKASK_URL, GENERATE_HEUREKASK_IMGURL,
+       GENERATE_HEUREKASK_IMGURL_ALTERNATIVE, GENERATE_HEUREKASK_PRICE_VAT,
+       GENERATE_HEUREKASK_PARAM, GENERATE_HEUREKASK_MANUFACTURER, GENERATE_HEUREKASK_CATEGORYTEXT,
+       GENERATE_HEUREKASK_DELIVERY_DATE, GENERATE_HEUREKASK_DELIVERY, GENERATE_HEUREKASK_EAN},
+      VAR_QUERY, IDX, SITE);
   values[kPriceColumn] = heureka_price_decimals(values[kPriceColumn]);
   add_item_row(HEUREKASK, HEUREKASK_DB, values);
   return "";

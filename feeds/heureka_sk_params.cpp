@@ -66,8 +66,7 @@ std::string GENERATE_HEUREKASK_PARAM(Query& VAR_QUERY, const std::string& IDX,
     guard_lookup(
         VAR_QUERY,
         [&] {
-          if (!open_lookup(VAR_QUERY,
-                           "SELECT " + column + " FROM laptop_adatbazis WHERE id='" + IDX + "';"))
+          if (!open_lookup(VAR_QUERY, product_columns_sql(column, IDX)))
             return;
           // Read before formatting: the warranty's translation reuses the cursor.
           const std::string value = VAR_QUERY.field_text(column);

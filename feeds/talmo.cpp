@@ -2,6 +2,7 @@
 
 #include "app/column_table.h"
 #include "app/console.h"
+#include "app/field_values.h"
 #include "app/file_output.h"
 #include "app/lookup.h"
 #include "app/run_state.h"
@@ -68,14 +69,11 @@ std::string GENERATE_TALMO_SZALLITASI_KOLTSEG(Query&, const std::string&, const 
 }
 
 std::string GENERATE_TALMO_LINE(Query& VAR_QUERY, const std::string& IDX, const std::string& SITE) {
-  // Every field runs its own statements on the shared cursor, strictly in column order.
-  StringList values;
-  for (auto field :
-       {GENERATE_TALMO_CIKKSZAM, GENERATE_TALMO_TERMEKNEV, GENERATE_TALMO_TERMEKLEIRAS_SHORT,
-        GENERATE_TALMO_BRUTTO_AR, GENERATE_TALMO_FOTOLINK, GENERATE_TALMO_TERMEKLINK,
-        GENERATE_TALMO_SZALLITASI_IDO, GENERATE_TALMO_SZALLITASI_KOLTSEG}) {
-    values.push_back(field(VAR_QUERY, IDX, SITE));
-  }
+  const StringList values = field_values(
+      {GENERATE_TALMO_CIKKSZAM, GENERATE_TALMO_TERMEKNEV, GENERATE_TALMO_TERMEKLEIRAS_SHORT,
+       GENERATE_TALMO_BRUTTO_AR, GENERATE_TALMO_FOTOLINK, GENERATE_TALMO_TERMEKLINK,
+       GENERATE_TALMO_SZALLITASI_IDO, GENERATE_TALMO_SZALLITASI_KOLTSEG},
+      VAR_QUERY, IDX, SITE);
   add_item_row(TALMOP, TALMO_DB, values);
   return "";
 }

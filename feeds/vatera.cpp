@@ -1,8 +1,8 @@
 #include "feeds/vatera.h"
 
 #include <cstddef>
-#include <iterator>
 
+#include "app/field_values.h"
 #include "feeds/grando.h"
 
 namespace talmo {
@@ -129,47 +129,45 @@ std::string GENERATE_VATERA_31_LEIRAS(Query& VAR_QUERY, const std::string& IDX,
 
 std::string GENERATE_VATERA_LINE(Query& VAR_QUERY, const std::string& IDX,
                                  const std::string& SITE) {
-  using Column = std::string (*)(Query&, const std::string&, const std::string&);
   // Vatera reads the columns by position; every call runs its statements on the shared cursor
   // in this order.
-  static constexpr Column kColumns[] = {
-      GENERATE_VATERA_01_VATERA_AZONOSITO,
-      GENERATE_VATERA_02_TERMEK_MEGNEVEZESE,
-      GENERATE_VATERA_03_ALCIM,
-      GENERATE_VATERA_04_DARABSZAM,
-      GENERATE_VATERA_05_KIKIALTASI_AR,
-      GENERATE_VATERA_06_MINIMALIS_AR,
-      GENERATE_VATERA_07_VILLAMAR,
-      GENERATE_VATERA_08_LICITLEPCSO,
-      GENERATE_VATERA_09_AUKCIO_INDITASA,
-      GENERATE_VATERA_10_AUKCIO_IDOTARTAMA,
-      GENERATE_VATERA_11_VATERA_KATEGORIAKOD,
-      GENERATE_VATERA_12_MEGYE,
-      GENERATE_VATERA_13_ORSZAGKOD,
-      GENERATE_VATERA_14_SZALLITASI_SABLON_AZONOSITO,
-      GENERATE_VATERA_15_UJRAINDITASOK_SZAMA,
-      GENERATE_VATERA_16_KIEMELESEK,
-      GENERATE_VATERA_17_TERMEKJELLEMZOK,
-      GENERATE_VATERA_18_GARANCIA,
-      GENERATE_VATERA_19_EN_AJANLATOM_ELFOGADASA,
-      GENERATE_VATERA_20_KEPEK1,
-      GENERATE_VATERA_21_KEPEK2,
-      GENERATE_VATERA_22_KEPEK3,
-      GENERATE_VATERA_23_KEPEK4,
-      GENERATE_VATERA_24_TERMEKKINEZETI_SABLON_AZONOSITO,
-      GENERATE_VATERA_25_SAJAT_TERMEK_AZONOSITO,
-      GENERATE_VATERA_26_KATEGORIA_SPECIFIKUS_TULAJDONSAGOK,
-      GENERATE_VATERA_27_KEPEK5,
-      GENERATE_VATERA_28_KEPEK6,
-      GENERATE_VATERA_29_KEPEK7,
-      GENERATE_VATERA_30_KEPEK8,
-      GENERATE_VATERA_31_LEIRAS,
-  };
+  const StringList values = field_values({GENERATE_VATERA_01_VATERA_AZONOSITO,
+                                          GENERATE_VATERA_02_TERMEK_MEGNEVEZESE,
+                                          GENERATE_VATERA_03_ALCIM,
+                                          GENERATE_VATERA_04_DARABSZAM,
+                                          GENERATE_VATERA_05_KIKIALTASI_AR,
+                                          GENERATE_VATERA_06_MINIMALIS_AR,
+                                          GENERATE_VATERA_07_VILLAMAR,
+                                          GENERATE_VATERA_08_LICITLEPCSO,
+                                          GENERATE_VATERA_09_AUKCIO_INDITASA,
+                                          GENERATE_VATERA_10_AUKCIO_IDOTARTAMA,
+                                          GENERATE_VATERA_11_VATERA_KATEGORIAKOD,
+                                          GENERATE_VATERA_12_MEGYE,
+                                          GENERATE_VATERA_13_ORSZAGKOD,
+                                          GENERATE_VATERA_14_SZALLITASI_SABLON_AZONOSITO,
+                                          GENERATE_VATERA_15_UJRAINDITASOK_SZAMA,
+                                          GENERATE_VATERA_16_KIEMELESEK,
+                                          GENERATE_VATERA_17_TERMEKJELLEMZOK,
+                                          GENERATE_VATERA_18_GARANCIA,
+                                          GENERATE_VATERA_19_EN_AJANLATOM_ELFOGADASA,
+                                          GENERATE_VATERA_20_KEPEK1,
+                                          GENERATE_VATERA_21_KEPEK2,
+                                          GENERATE_VATERA_22_KEPEK3,
+                                          GENERATE_VATERA_23_KEPEK4,
+                                          GENERATE_VATERA_24_TERMEKKINEZETI_SABLON_AZONOSITO,
+                                          GENERATE_VATERA_25_SAJAT_TERMEK_AZONOSITO,
+                                          GENERATE_VATERA_26_KATEGORIA_SPECIFIKUS_TULAJDONSAGOK,
+                                          GENERATE_VATERA_27_KEPEK5,
+                                          GENERATE_VATERA_28_KEPEK6,
+                                          GENERATE_VATERA_29_KEPEK7,
+                                          GENERATE_VATERA_30_KEPEK8,
+                                          GENERATE_VATERA_31_LEIRAS},
+                                         VAR_QUERY, IDX, SITE);
   std::string line;
-  for (std::size_t i = 0; i < std::size(kColumns); ++i) {
+  for (std::size_t i = 0; i < values.size(); ++i) {
     if (i > 0)
       line += ";";
-    line += kColumns[i](VAR_QUERY, IDX, SITE);
+    line += values[i];
   }
   return line;
 }

@@ -28,13 +28,9 @@ constexpr ProductUrlFeed kGrandoUrl{GRANDO_BACKTRACE, VIRTUEMART_SEO_END_HU, tru
 constexpr ProductUrlFeed kHeurekaSkUrl{HEUREKASK_BACKTRACE, VIRTUEMART_SEO_END_SK, true, true,
                                        true};
 
-std::string product_sql(const std::string& columns, const std::string& IDX) {
-  return "SELECT " + columns + " FROM laptop_adatbazis WHERE id='" + IDX + "';";
-}
-
 // Whether product IDX is a clearance item; false without a row. Raises on a failed query.
 bool is_clearance_item(Query& VAR_QUERY, const std::string& IDX) {
-  return open_lookup(VAR_QUERY, product_sql("sorszam", IDX)) &&
+  return open_lookup(VAR_QUERY, product_columns_sql("sorszam", IDX)) &&
          contains_ci(VAR_QUERY.field_text("sorszam"), "akc");
 }
 
@@ -72,7 +68,7 @@ std::string GENERATE_PRODUCT_SKU(Query& VAR_QUERY, const std::string& IDX,
                                  const std::string& /*SITE*/) {
   std::string result;
   guard_lookup(VAR_QUERY, [&] {
-    if (open_lookup(VAR_QUERY, product_sql("sorszam, gyarto", IDX)))
+    if (open_lookup(VAR_QUERY, product_columns_sql("sorszam, gyarto", IDX)))
       result = VAR_QUERY.field_text("sorszam") + "/" + VAR_QUERY.field_text("gyarto");
   });
   return result;
@@ -81,7 +77,7 @@ std::string GENERATE_PRODUCT_SKU(Query& VAR_QUERY, const std::string& IDX,
 std::string GENERATE_SLUG(Query& VAR_QUERY, const std::string& IDX, const std::string& SITE) {
   std::string result;
   guard_lookup(VAR_QUERY, [&] {
-    if (!open_lookup(VAR_QUERY, product_sql("sorszam, gyarto, nev, tipusmegnevezes", IDX)))
+    if (!open_lookup(VAR_QUERY, product_columns_sql("sorszam, gyarto, nev, tipusmegnevezes", IDX)))
       return;
     const std::string sorszam = VAR_QUERY.field_text("sorszam");
     if (contains_ci(sorszam, "akc")) {
@@ -118,7 +114,7 @@ std::string GENERATE_PIC_FILE_URL(const std::string& NR, Query& VAR_QUERY, const
                                   const std::string& SITE) {
   std::string result;
   guard_lookup(VAR_QUERY, [&] {
-    if (open_lookup(VAR_QUERY, product_sql("gyarto, tipus", IDX))) {
+    if (open_lookup(VAR_QUERY, product_columns_sql("gyarto, tipus", IDX))) {
       result = upper_ascii(VAR_QUERY.field_text("gyarto")) + "-" +
                upper_ascii(VAR_QUERY.field_text("tipus")) + "-" + "0" + NR + "-" +
                GETSITENAME(SITE) + ".jpg";
