@@ -1,56 +1,31 @@
 #include "app/application.h"
 
-#include <limits.h>
-#include <unistd.h>
 #include <exception>
 
-#include "app/console.h"
-#include "app/errors.h"
-#include "app/export_pipeline.h"
+#include "app/exports.h"
 #include "app/options.h"
-#include "app/run_state.h"
+#include "core/console.h"
+#include "core/errors.h"
+#include "core/system.h"
 
 namespace talmo {
 namespace {
 
-std::string executable_path() {
-  char buffer[PATH_MAX];
-  const ssize_t length = ::readlink("/proc/self/exe", buffer, sizeof buffer - 1);
-  return length > 0 ? std::string(buffer, static_cast<std::size_t>(length)) : std::string();
-}
-
 // One y/n answer: one input line, its first character decides. An empty line or the end of
 // input is a no.
-bool ask(const std::string& prompt) {
-  VALASZ = 'n';
+bool ask(RunContext& run, const std::string& prompt) {
+  run.VALASZ = 'n';
   write_text(prompt);
   if (const std::optional<std::string> line = read_line(); line && !line->empty()) {
-    VALASZ = line->front();
+    run.VALASZ = line->front();
   }
-  return EVAL_VALASZ(VALASZ);
-}
-
-void run_or_skip(bool chosen, const std::string& target, void (*export_operation)()) {
-  if (chosen) {
-    write_line("Beginning " + target + " export");
-    export_operation();
-  } else {
-    write_line(target + " export skipped");
-  }
+  return EVAL_VALASZ(run.VALASZ);
 }
 
 }  // namespace
 
 bool EVAL_VALASZ(char VALASZ) {
   return VALASZ == 'y' || VALASZ == 'Y';
-}
-
-std::string executable_directory() {
-  const std::string path = executable_path();
-  std::string directory = path.substr(0, path.rfind('/') + 1);
-  if (directory.empty() || directory.back() != '/')
-    directory += '/';
-  return directory;
 }
 
 TTalmo_Software::TTalmo_Software(StringList arguments) : arguments_(std::move(arguments)) {}
@@ -86,36 +61,40 @@ void TTalmo_Software::DoRun() {
       return;
     }
   }
+  // Unreachable: the option check above refuses "-h" and "--help". Kept as the shop's tool has it.
   if (has_option(arguments_, 'h', "help")) {
     WriteHelp();
     Terminate();
     return;
   }
+  // Unreachable: the option check above refuses "-a" and "--all". Kept as the shop's tool has it.
   if (has_option(arguments_, 'a', "all")) {
     write_line("siker");
     Terminate();
     return;
   }
 
-  PATH = executable_directory();
-  if (!GETLOGININFO()) {
-    LOGIN = default_login();
-    SETLOGININFO();
+  RunContext run;
+  run.PATH = executable_directory();
+  if (!GETLOGININFO(run.PATH, run.LOGIN)) {
+    run.LOGIN = default_login();
+    SETLOGININFO(run.PATH, run.LOGIN);
   }
 
-  CONNECTION = std::make_unique<Connection>();
-  QUERY = std::make_unique<Query>(*CONNECTION);
+  run.CONNECTION = std::make_unique<Connection>();
+  run.QUERY = std::make_unique<Query>(*run.CONNECTION);
   try {
     // Released in this order whatever happens: the query, then the connection.
     struct ReleaseDatabase {
+      RunContext& run;
       ~ReleaseDatabase() {
-        QUERY.reset();
-        CONNECTION.reset();
+        run.QUERY.reset();
+        run.CONNECTION.reset();
       }
-    } release_database;
-    CONNECTION->open(LOGIN.IP, LOGIN.USERNAME, LOGIN.PASSWORD, LOGIN.DATABASE);
-    ask_questions();
-    run_chosen_exports();
+    } release_database{run};
+    run.CONNECTION->open(run.LOGIN.IP, run.LOGIN.USERNAME, run.LOGIN.PASSWORD, run.LOGIN.DATABASE);
+    ask_questions(run);
+    run_chosen_exports(run);
   } catch (const TalmoError& error) {
     write_line(error.what());
     failed_ = true;
@@ -127,20 +106,21 @@ void TTalmo_Software::DoRun() {
   Terminate();
 }
 
-void TTalmo_Software::ask_questions() {
-  DO_TALMO = ask("Start TALMO export? (y/n): ");
-  DO_ARUKERESO = ask("Start ARUKERESO export? (y/n): ");
-  DO_GRANDO = ask("Start GRANDO export? (y/n): ");
-  DO_VATERA = ask("Start VATERA export? (y/n): ");
-  DO_HEUREKASK = ask("Start HEUREKA.SK export? (y/n): ");
+void TTalmo_Software::ask_questions(RunContext& run) {
+  // All five are asked before any export starts.
+  for (const ExportChoice& choice : export_choices())
+    run.*choice.flag = ask(run, choice.prompt);
 }
 
-void TTalmo_Software::run_chosen_exports() {
-  run_or_skip(DO_TALMO, "TALMO", DO_EXPORT_TALMO);
-  run_or_skip(DO_ARUKERESO, "ARUKERESO", DO_EXPORT_ARUKERESO);
-  run_or_skip(DO_GRANDO, "GRANDO", DO_EXPORT_GRANDO);
-  run_or_skip(DO_VATERA, "VATERA", DO_EXPORT_VATERA);
-  run_or_skip(DO_HEUREKASK, "HEUREKA.SK", DO_EXPORT_HEUREKASK);
+void TTalmo_Software::run_chosen_exports(RunContext& run) {
+  for (const ExportChoice& choice : export_choices()) {
+    if (run.*choice.flag) {
+      write_line(choice.beginning_line);
+      choice.export_operation(run);
+    } else {
+      write_line(choice.skip_line);
+    }
+  }
 }
 
 int run_talmo_software(int argc, char** argv) {

@@ -2,7 +2,8 @@
 
 #include <string>
 
-#include "app/strings.h"
+#include "app/run_context.h"
+#include "core/strings.h"
 
 namespace talmo {
 
@@ -25,8 +26,8 @@ class TTalmo_Software {
  private:
   // The frame's exception reporter: the message on one line.
   void ShowException(const std::string& message);
-  void ask_questions();
-  void run_chosen_exports();
+  void ask_questions(RunContext& run);
+  void run_chosen_exports(RunContext& run);
 
   StringList arguments_;
   bool terminated_ = false;
@@ -35,9 +36,6 @@ class TTalmo_Software {
 
 // True exactly for "y" and "Y".
 bool EVAL_VALASZ(char VALASZ);
-
-// The directory of the running executable, ending in "/".
-std::string executable_directory();
 
 // The program: creates the application, runs it and returns its exit status.
 int run_talmo_software(int argc, char** argv);

@@ -1,41 +1,16 @@
 #include "app/login_settings.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-#include <cerrno>
 #include <optional>
 
-#include "app/file_output.h"
-#include "app/run_state.h"
+#include "core/file_input.h"
+#include "core/file_output.h"
+#include "core/strings.h"
 #include "site_config.h"
 
 namespace talmo {
 namespace {
 
 constexpr const char* kSettingsFile = "config.dat";
-
-// The whole file, or nullopt when it cannot be opened or read (a directory included).
-std::optional<std::string> read_whole_file(const std::string& path) {
-  const int fd = ::open(path.c_str(), O_RDONLY);
-  if (fd < 0)
-    return std::nullopt;
-  std::string content;
-  char buffer[4096];
-  for (;;) {
-    const ssize_t got = ::read(fd, buffer, sizeof buffer);
-    if (got < 0 && errno == EINTR)
-      continue;
-    if (got < 0) {
-      ::close(fd);
-      return std::nullopt;
-    }
-    if (got == 0)
-      break;
-    content.append(buffer, static_cast<std::size_t>(got));
-  }
-  ::close(fd);
-  return content;
-}
 
 // Lines ending in "\n" or "\r\n"; a last line without a line end still counts.
 StringList split_lines(const std::string& content) {
@@ -60,7 +35,7 @@ LOGININFO default_login() {
   return LOGININFO{site_config::kDefaultDatabaseHost, "3306", "exprtr", "T7d3wq415M", "uj_db"};
 }
 
-bool GETLOGININFO() {
+bool GETLOGININFO(const std::string& PATH, LOGININFO& LOGIN) {
   const std::optional<std::string> content = read_whole_file(PATH + kSettingsFile);
   if (!content)
     return false;
@@ -73,7 +48,7 @@ bool GETLOGININFO() {
   return true;
 }
 
-void SETLOGININFO() {
+void SETLOGININFO(const std::string& PATH, const LOGININFO& LOGIN) {
   save_lines_with_mode(PATH + kSettingsFile,
                        {LOGIN.IP, LOGIN.PORT, LOGIN.USERNAME, LOGIN.PASSWORD, LOGIN.DATABASE},
                        0600);

@@ -18,10 +18,10 @@ LOGININFO default_login();
 
 // Reads PATH + "config.dat" into LOGIN. Missing lines read as empty text. Returns false, without a
 // message, when the file cannot be opened or read.
-bool GETLOGININFO();
+bool GETLOGININFO(const std::string& PATH, LOGININFO& LOGIN);
 
 // Writes LOGIN to PATH + "config.dat", readable and writable by its owner only.
 // Raises FileError when the file cannot be written.
-void SETLOGININFO();
+void SETLOGININFO(const std::string& PATH, const LOGININFO& LOGIN);
 
 }  // namespace talmo

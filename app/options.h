@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "app/strings.h"
+#include "core/strings.h"
 
 namespace talmo {
 

@@ -1,6 +1,6 @@
 #include "description/article_links.h"
 
-#include "app/strings.h"
+#include "core/strings.h"
 #include "site_config.h"
 
 namespace talmo {

@@ -5,9 +5,9 @@
 #include <span>
 #include <vector>
 
-#include "app/lookup.h"
-#include "app/strings.h"
-#include "app/text_utils.h"
+#include "core/lookup.h"
+#include "core/strings.h"
+#include "core/text_utils.h"
 #include "description/article_links.h"
 #include "description/details_table.h"
 #include "description/search_icon.h"

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "app/database.h"
+#include "core/database.h"
 
 namespace talmo {
 

@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "app/strings.h"
-#include "app/text_utils.h"
+#include "core/strings.h"
+#include "core/text_utils.h"
 #include "description/article_links.h"
 #include "description/html_helpers.h"
 

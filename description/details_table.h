@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "app/database.h"
-#include "app/strings.h"
+#include "core/database.h"
+#include "core/strings.h"
 
 namespace talmo {
 

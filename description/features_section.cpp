@@ -2,9 +2,9 @@
 
 #include <utility>
 
-#include "app/lookup.h"
-#include "app/strings.h"
-#include "app/text_utils.h"
+#include "core/lookup.h"
+#include "core/strings.h"
+#include "core/text_utils.h"
 #include "description/html_helpers.h"
 #include "description/search_icon.h"
 #include "description/spec_builders.h"

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "app/database.h"
+#include "core/database.h"
 
 namespace talmo {
 

@@ -1,7 +1,7 @@
 #include "description/short_description.h"
 
-#include "app/lookup.h"
-#include "app/strings.h"
+#include "core/lookup.h"
+#include "core/strings.h"
 #include "description/spec_builders.h"
 #include "product/translation.h"
 

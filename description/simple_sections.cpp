@@ -1,8 +1,8 @@
 #include "description/simple_sections.h"
 
-#include "app/lookup.h"
-#include "app/strings.h"
-#include "app/text_utils.h"
+#include "core/lookup.h"
+#include "core/strings.h"
+#include "core/text_utils.h"
 #include "description/article_links.h"
 #include "description/search_icon.h"
 #include "description/spec_builders.h"

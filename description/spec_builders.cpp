@@ -1,8 +1,8 @@
 #include "description/spec_builders.h"
 
-#include "app/errors.h"
-#include "app/strings.h"
-#include "app/text_utils.h"
+#include "core/errors.h"
+#include "core/strings.h"
+#include "core/text_utils.h"
 
 namespace talmo {
 namespace {

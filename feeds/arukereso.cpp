@@ -1,10 +1,13 @@
 #include "feeds/arukereso.h"
 
-#include "app/field_values.h"
-#include "app/lookup.h"
-#include "app/strings.h"
-#include "app/text_utils.h"
+#include "core/file_output.h"
+#include "core/lookup.h"
+#include "core/strings.h"
+#include "core/system.h"
+#include "core/text_utils.h"
 #include "description/long_description.h"
+#include "feeds/feed_loop.h"
+#include "feeds/field_values.h"
 #include "product/pricing.h"
 #include "product/product_links.h"
 #include "product/product_name.h"
@@ -82,6 +85,20 @@ std::string GENERATE_ARUKERESO_LINE(Query& VAR_QUERY, const std::string& IDX,
        GENERATE_ARUKERESO_DESCRIPTION, GENERATE_ARUKERESO_DELIVERY_TIME,
        GENERATE_ARUKERESO_PRODUCT_NUMBER},
       VAR_QUERY, IDX, SITE));
+}
+
+void GENERATE_ARUKERESO(Query& VAR_QUERY, StringList& list, const std::string& SITE,
+                        const std::string& PATH) {
+  if (list.empty())
+    return;
+  const std::int64_t start = clock_milliseconds();
+  StringList lines{GENERATE_ARUKERESO_HEADER()};
+  drop_unpublished(VAR_QUERY, list, "Product with id: ");
+  walk_items(VAR_QUERY, list, SITE, "% :: EXPORT :: (Type: ARUKERESO :: Site: ", start, true,
+             [&](const std::string& IDX) {
+               lines.push_back(GENERATE_ARUKERESO_LINE(VAR_QUERY, IDX, SITE));
+             });
+  save_lines(csv_path(PATH, SITE, "arukereso.csv"), lines);
 }
 
 }  // namespace talmo

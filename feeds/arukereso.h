@@ -2,7 +2,8 @@
 
 #include <string>
 
-#include "app/database.h"
+#include "core/database.h"
+#include "core/strings.h"
 
 namespace talmo {
 
@@ -35,5 +36,11 @@ std::string GENERATE_ARUKERESO_HEADER();
 // One product's line: the eleven fields, each quoted, joined by ",". No line end of its own.
 std::string GENERATE_ARUKERESO_LINE(Query& VAR_QUERY, const std::string& IDX,
                                     const std::string& SITE);
+
+// The Árukereső list operation: the header line, the published filter, one line per product but
+// clearance items, saved as PATH + "export/" + SITE + "/arukereso.csv" (header only when the
+// filter leaves nothing). An empty id list writes nothing.
+void GENERATE_ARUKERESO(Query& VAR_QUERY, StringList& list, const std::string& SITE,
+                        const std::string& PATH);
 
 }  // namespace talmo

@@ -2,22 +2,22 @@
 
 #include <cstddef>
 
-#include "app/column_table.h"
-#include "app/errors.h"
-#include "app/export_pipeline.h"
-#include "app/field_values.h"
-#include "app/file_output.h"
-#include "app/lookup.h"
-#include "app/run_state.h"
-#include "app/strings.h"
+#include "core/errors.h"
+#include "core/file_output.h"
+#include "core/lookup.h"
+#include "core/strings.h"
+#include "core/system.h"
 #include "description/long_description.h"
 #include "feeds/arukereso.h"
+#include "feeds/feed_loop.h"
+#include "feeds/field_values.h"
 #include "feeds/grando_categories.h"
 #include "product/categories.h"
 #include "product/price_rounding.h"
 #include "product/pricing.h"
 #include "product/product_links.h"
 #include "product/product_name.h"
+#include "product/published.h"
 
 namespace talmo {
 namespace {
@@ -171,12 +171,12 @@ std::string grando_warranty_code(const std::string& warranty) {
   return "9";
 }
 
-void GENERATE_GRANDO_HEADER() {
-  add_header_row(GRANDO, GRANDO_DB, kGrandoColumns);
+void GENERATE_GRANDO_HEADER(ColumnTable& GRANDO) {
+  add_header_row(GRANDO, kGrandoColumns);
 }
 
-std::string GENERATE_GRANDO_LINE(Query& VAR_QUERY, const std::string& IDX,
-                                 const std::string& SITE) {
+std::string GENERATE_GRANDO_LINE(Query& VAR_QUERY, const std::string& IDX, const std::string& SITE,
+                                 ColumnTable& GRANDO) {
   StringList values = field_values(
       {GENERATE_GRANDO_NAME, GENERATE_GRANDO_PRODUCT_ID, GENERATE_GRANDO_PRICE,
        GENERATE_GRANDO_DESCRIPTION, GENERATE_GRANDO_PAGE_LINK, GENERATE_GRANDO_DISCOUNT_PRICE,
@@ -184,16 +184,30 @@ std::string GENERATE_GRANDO_LINE(Query& VAR_QUERY, const std::string& IDX,
        GENERATE_GRANDO_CATEGORY},
       VAR_QUERY, IDX, SITE);
   apply_price_rule(values[kPriceColumn], values[kDiscountPriceColumn]);
-  add_item_row(GRANDO, GRANDO_DB, values);
+  add_item_row(GRANDO, values);
   return "";
 }
 
-void GRANDO2XML() {
+void GRANDO2XML(const ColumnTable& GRANDO, const std::string& PATH) {
   const XmlLayout layout{
       {"<?xml version=\"1.0\" encoding=\"UTF-8\" ?>", "<products>"}, "\t<product>", grando_element,
       {"\t\t<status><![CDATA[1]]></status>", "\t</product>"},        "</products>",
   };
   save_lines(PATH + "export/hu/" + "grando.xml", convert_table_to_xml(GRANDO, layout));
+}
+
+void GENERATE_GRANDO(Query& VAR_QUERY, StringList& list, const std::string& SITE,
+                     const std::string& PATH) {
+  if (list.empty())
+    return;
+  ColumnTable GRANDO;
+  GENERATE_GRANDO_HEADER(GRANDO);
+  drop_unpublished(VAR_QUERY, list, "Product with id: ");
+  const std::int64_t start = clock_milliseconds();
+  // Clearance items stay in: Grando is the feed that carries them.
+  walk_items(VAR_QUERY, list, SITE, "% :: EXPORT :: (Type: GRANDO :: Site: ", start, false,
+             [&](const std::string& IDX) { GENERATE_GRANDO_LINE(VAR_QUERY, IDX, SITE, GRANDO); });
+  GRANDO2XML(GRANDO, PATH);
 }
 
 }  // namespace talmo

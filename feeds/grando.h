@@ -3,7 +3,9 @@
 #include <cstdint>
 #include <string>
 
-#include "app/database.h"
+#include "core/database.h"
+#include "core/strings.h"
+#include "feeds/column_table.h"
 
 namespace talmo {
 
@@ -47,14 +49,20 @@ std::string GENERATE_GRANDO_CATEGORY(Query& VAR_QUERY, const std::string& IDX,
 std::string grando_warranty_code(const std::string& warranty);
 
 // Starts the Grando column table: row 0 with the ten column names, OSZLOP_DB = 10.
-void GENERATE_GRANDO_HEADER();
+void GENERATE_GRANDO_HEADER(ColumnTable& GRANDO);
 
-// Appends one product's row of ten fields to the Grando table; when the discount price is above
-// the list price (both whole numbers) the price column shows the discount price. Returns "".
-std::string GENERATE_GRANDO_LINE(Query& VAR_QUERY, const std::string& IDX, const std::string& SITE);
+// Appends one product's row of ten fields to GRANDO; when the discount price is above the list
+// price (both whole numbers) the price column shows the discount price. Returns "".
+std::string GENERATE_GRANDO_LINE(Query& VAR_QUERY, const std::string& IDX, const std::string& SITE,
+                                 ColumnTable& GRANDO);
 
-// Writes the Grando table as PATH + "export/hu/grando.xml", one <product> per row after the
-// header, warranty texts mapped to Grando's codes. Raises FileError when it cannot be written.
-void GRANDO2XML();
+// Writes GRANDO as PATH + "export/hu/grando.xml", one <product> per row after the header,
+// warranty texts mapped to Grando's codes. Raises FileError when it cannot be written.
+void GRANDO2XML(const ColumnTable& GRANDO, const std::string& PATH);
+
+// The Grando list operation: the published filter, one item per product, clearance items
+// included, and grando.xml (a header-only file when the list is empty after the filter).
+void GENERATE_GRANDO(Query& VAR_QUERY, StringList& list, const std::string& SITE,
+                     const std::string& PATH);
 
 }  // namespace talmo

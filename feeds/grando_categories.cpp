@@ -3,7 +3,7 @@
 #include <string_view>
 #include <vector>
 
-#include "app/strings.h"
+#include "core/strings.h"
 
 namespace talmo {
 namespace {

@@ -2,14 +2,14 @@
 
 #include <algorithm>
 
-#include "app/column_table.h"
-#include "app/console.h"
-#include "app/field_values.h"
-#include "app/file_output.h"
-#include "app/lookup.h"
-#include "app/run_state.h"
+#include "core/console.h"
+#include "core/file_output.h"
+#include "core/lookup.h"
+#include "core/system.h"
 #include "description/short_description.h"
 #include "feeds/arukereso.h"
+#include "feeds/feed_loop.h"
+#include "feeds/field_values.h"
 #include "feeds/heureka_sk_params.h"
 #include "feeds/talmo.h"
 #include "product/categories.h"
@@ -145,7 +145,7 @@ std::string heureka_price_decimals(const std::string& price) {
 }
 
 std::string GENERATE_HEUREKASK_LINE(Query& VAR_QUERY, const std::string& IDX,
-                                    const std::string& SITE) {
+                                    const std::string& SITE, ColumnTable& HEUREKASK) {
   StringList values = field_values(
       {GENERATE_HEUREKASK_ITEM_ID, GENERATE_HEUREKASK_PRODUCTNAME, GENERATE_HEUREKASK_PRODUCT,
        GENERATE_HEUREKASK_DESCRIPTION, GENERATE_HEUREKASK_URL, GENERATE_HEUREKASK_IMGURL,
@@ -154,15 +154,15 @@ std::string GENERATE_HEUREKASK_LINE(Query& VAR_QUERY, const std::string& IDX,
        GENERATE_HEUREKASK_DELIVERY_DATE, GENERATE_HEUREKASK_DELIVERY, GENERATE_HEUREKASK_EAN},
       VAR_QUERY, IDX, SITE);
   values[kPriceColumn] = heureka_price_decimals(values[kPriceColumn]);
-  add_item_row(HEUREKASK, HEUREKASK_DB, values);
+  add_item_row(HEUREKASK, values);
   return "";
 }
 
-void GENERATE_HEUREKASK_HEADER() {
-  add_header_row(HEUREKASK, HEUREKASK_DB, kHeurekaColumns);
+void GENERATE_HEUREKASK_HEADER(ColumnTable& HEUREKASK) {
+  add_header_row(HEUREKASK, kHeurekaColumns);
 }
 
-void HEUREKASK2XML() {
+void HEUREKASK2XML(const ColumnTable& HEUREKASK, const std::string& PATH) {
   const XmlLayout layout{
       {"<?xml version=\"1.0\" encoding=\"UTF-8\" ?>", "<SHOP>"},
       "\t<SHOPITEM>",
@@ -173,6 +173,21 @@ void HEUREKASK2XML() {
   const StringList lines = convert_table_to_xml(HEUREKASK, layout);
   write_line("Saving Output File: " + PATH + "export/sk/heureka.xml");
   save_lines(PATH + "export/sk/" + "heureka.xml", lines);
+}
+
+void GENERATE_HEUREKA_SK(Query& VAR_QUERY, StringList& list, const std::string& SITE,
+                         const std::string& PATH) {
+  if (list.empty())
+    return;
+  const std::int64_t start = clock_milliseconds();
+  ColumnTable HEUREKASK;
+  GENERATE_HEUREKASK_HEADER(HEUREKASK);
+  drop_unpublished(VAR_QUERY, list, "Product with id: ");
+  walk_items(
+      VAR_QUERY, list, SITE, "% :: EXPORT :: Progress windows (Type: HEUREKA.SK :: Site: ", start,
+      false,
+      [&](const std::string& IDX) { GENERATE_HEUREKASK_LINE(VAR_QUERY, IDX, SITE, HEUREKASK); });
+  HEUREKASK2XML(HEUREKASK, PATH);
 }
 
 }  // namespace talmo

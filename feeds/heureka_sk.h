@@ -2,7 +2,9 @@
 
 #include <string>
 
-#include "app/database.h"
+#include "core/database.h"
+#include "core/strings.h"
+#include "feeds/column_table.h"
 
 namespace talmo {
 
@@ -48,16 +50,21 @@ std::string GENERATE_HEUREKASK_VAT(Query& VAR_QUERY, const std::string& IDX,
 // without a point gets the "0" as well ("9" gives "90"): the rule is kept as it always ran.
 std::string heureka_price_decimals(const std::string& price);
 
-// Appends one product's row of fourteen fields to the HEUREKASK table, the price with its
-// decimal comma. Returns "".
+// Appends one product's row of fourteen fields to HEUREKASK, the price with its decimal comma.
+// Returns "".
 std::string GENERATE_HEUREKASK_LINE(Query& VAR_QUERY, const std::string& IDX,
-                                    const std::string& SITE);
+                                    const std::string& SITE, ColumnTable& HEUREKASK);
 
 // Starts the Heureka.sk column table: row 0 with the fourteen element names, OSZLOP_DB = 14.
-void GENERATE_HEUREKASK_HEADER();
+void GENERATE_HEUREKASK_HEADER(ColumnTable& HEUREKASK);
 
-// Writes the Heureka.sk table as PATH + "export/sk/heureka.xml", one <SHOPITEM> per row after
-// the header. Raises FileError when the file cannot be written.
-void HEUREKASK2XML();
+// Writes HEUREKASK as PATH + "export/sk/heureka.xml", one <SHOPITEM> per row after the header.
+// Raises FileError when the file cannot be written.
+void HEUREKASK2XML(const ColumnTable& HEUREKASK, const std::string& PATH);
+
+// The Heureka.sk list operation: the published filter, one item per product, clearance items
+// included, and heureka.xml (a header-only file when the list is empty after the filter).
+void GENERATE_HEUREKA_SK(Query& VAR_QUERY, StringList& list, const std::string& SITE,
+                         const std::string& PATH);
 
 }  // namespace talmo

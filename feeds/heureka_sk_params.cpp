@@ -1,6 +1,6 @@
 #include "feeds/heureka_sk_params.h"
 
-#include "app/lookup.h"
+#include "core/lookup.h"
 #include "description/spec_builders.h"
 #include "product/translation.h"
 

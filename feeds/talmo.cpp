@@ -1,12 +1,12 @@
 #include "feeds/talmo.h"
 
-#include "app/column_table.h"
-#include "app/console.h"
-#include "app/field_values.h"
-#include "app/file_output.h"
-#include "app/lookup.h"
-#include "app/run_state.h"
+#include "core/console.h"
+#include "core/file_output.h"
+#include "core/lookup.h"
+#include "core/system.h"
 #include "description/short_description.h"
+#include "feeds/feed_loop.h"
+#include "feeds/field_values.h"
 #include "product/pricing.h"
 #include "product/product_links.h"
 #include "product/product_name.h"
@@ -68,21 +68,22 @@ std::string GENERATE_TALMO_SZALLITASI_KOLTSEG(Query&, const std::string&, const 
   return "890";
 }
 
-std::string GENERATE_TALMO_LINE(Query& VAR_QUERY, const std::string& IDX, const std::string& SITE) {
+std::string GENERATE_TALMO_LINE(Query& VAR_QUERY, const std::string& IDX, const std::string& SITE,
+                                ColumnTable& TALMOP) {
   const StringList values = field_values(
       {GENERATE_TALMO_CIKKSZAM, GENERATE_TALMO_TERMEKNEV, GENERATE_TALMO_TERMEKLEIRAS_SHORT,
        GENERATE_TALMO_BRUTTO_AR, GENERATE_TALMO_FOTOLINK, GENERATE_TALMO_TERMEKLINK,
        GENERATE_TALMO_SZALLITASI_IDO, GENERATE_TALMO_SZALLITASI_KOLTSEG},
       VAR_QUERY, IDX, SITE);
-  add_item_row(TALMOP, TALMO_DB, values);
+  add_item_row(TALMOP, values);
   return "";
 }
 
-void GENERATE_TALMO_HEADER() {
-  add_header_row(TALMOP, TALMO_DB, kTalmoColumns);
+void GENERATE_TALMO_HEADER(ColumnTable& TALMOP) {
+  add_header_row(TALMOP, kTalmoColumns);
 }
 
-void TALMO2XML() {
+void TALMO2XML(const ColumnTable& TALMOP, const std::string& PATH) {
   const XmlLayout layout{
       {"<?xml version=\"1.0\" encoding=\"UTF-8\" ?>", "<termeklista>"},
       "\t<termek>",
@@ -93,6 +94,21 @@ void TALMO2XML() {
   const StringList lines = convert_table_to_xml(TALMOP, layout);
   write_line("Saving File: " + PATH + "export/hu/talmo.xml");
   save_lines(PATH + "export/hu/" + "talmo.xml", lines);
+}
+
+void GENERATE_TALMO(Query& VAR_QUERY, StringList& list, const std::string& SITE,
+                    const std::string& PATH) {
+  write_line("Querying list for published items...");
+  drop_unpublished(VAR_QUERY, list, "Product with ID: ");
+  // With nothing left the previous talmo.xml stays as it is.
+  if (list.empty())
+    return;
+  const std::int64_t start = clock_milliseconds();
+  ColumnTable TALMOP;
+  GENERATE_TALMO_HEADER(TALMOP);
+  walk_items(VAR_QUERY, list, SITE, "% :: EXPORT :: (Type: TALMO :: Site: ", start, true,
+             [&](const std::string& IDX) { GENERATE_TALMO_LINE(VAR_QUERY, IDX, SITE, TALMOP); });
+  TALMO2XML(TALMOP, PATH);
 }
 
 }  // namespace talmo

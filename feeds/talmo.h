@@ -2,7 +2,9 @@
 
 #include <string>
 
-#include "app/database.h"
+#include "core/database.h"
+#include "core/strings.h"
+#include "feeds/column_table.h"
 
 namespace talmo {
 
@@ -20,14 +22,20 @@ std::string GENERATE_TALMO_SZALLITASI_IDO(Query& VAR_QUERY, const std::string& I
 std::string GENERATE_TALMO_SZALLITASI_KOLTSEG(Query& VAR_QUERY, const std::string& IDX,
                                               const std::string& SITE);
 
-// Appends one product's row of eight fields to the TALMO table. Returns "".
-std::string GENERATE_TALMO_LINE(Query& VAR_QUERY, const std::string& IDX, const std::string& SITE);
+// Appends one product's row of eight fields to TALMOP. Returns "".
+std::string GENERATE_TALMO_LINE(Query& VAR_QUERY, const std::string& IDX, const std::string& SITE,
+                                ColumnTable& TALMOP);
 
 // Starts the TALMO column table: row 0 with the eight column names, OSZLOP_DB = 8.
-void GENERATE_TALMO_HEADER();
+void GENERATE_TALMO_HEADER(ColumnTable& TALMOP);
 
-// Writes the TALMO table as PATH + "export/hu/talmo.xml", one <termek> per row after the header.
+// Writes TALMOP as PATH + "export/hu/talmo.xml", one <termek> per row after the header.
 // Raises FileError when the file cannot be written.
-void TALMO2XML();
+void TALMO2XML(const ColumnTable& TALMOP, const std::string& PATH);
+
+// The TALMO list operation: the published filter, then, unless nothing is left (the previous
+// talmo.xml then stays), one item per product but clearance items, and talmo.xml.
+void GENERATE_TALMO(Query& VAR_QUERY, StringList& list, const std::string& SITE,
+                    const std::string& PATH);
 
 }  // namespace talmo

@@ -2,7 +2,11 @@
 
 #include <cstddef>
 
-#include "app/field_values.h"
+#include "core/console.h"
+#include "core/file_output.h"
+#include "core/system.h"
+#include "feeds/feed_loop.h"
+#include "feeds/field_values.h"
 #include "feeds/grando.h"
 
 namespace talmo {
@@ -174,6 +178,20 @@ std::string GENERATE_VATERA_LINE(Query& VAR_QUERY, const std::string& IDX,
 
 std::string GENERATE_VATERA_HEADER() {
   return "";
+}
+
+void GENERATE_VATERA(Query& VAR_QUERY, StringList& list, const std::string& SITE,
+                     const std::string& PATH) {
+  if (list.empty())
+    return;
+  const std::int64_t start = clock_milliseconds();
+  StringList lines;
+  drop_unpublished(VAR_QUERY, list, "Product with id: ");
+  walk_items(
+      VAR_QUERY, list, SITE, "% :: EXPORT :: (Type: VATERA :: Site: ", start, true,
+      [&](const std::string& IDX) { lines.push_back(GENERATE_VATERA_LINE(VAR_QUERY, IDX, SITE)); });
+  write_line("Saving output file: " + csv_path(PATH, SITE, "vatera.csv"));
+  save_lines(csv_path(PATH, SITE, "vatera.csv"), lines);
 }
 
 }  // namespace talmo

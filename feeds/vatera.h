@@ -2,7 +2,8 @@
 
 #include <string>
 
-#include "app/database.h"
+#include "core/database.h"
+#include "core/strings.h"
 #include "product/product_links.h"  // columns 20 to 23, the four picture addresses
 
 namespace talmo {
@@ -87,5 +88,11 @@ std::string GENERATE_VATERA_LINE(Query& VAR_QUERY, const std::string& IDX, const
 
 // vatera.csv has no header line: this returns "" and the export never calls it.
 std::string GENERATE_VATERA_HEADER();
+
+// The Vatera list operation: the published filter, one line per product but clearance items,
+// "Saving output file: " and the file PATH + "export/" + SITE + "/vatera.csv" (empty when the
+// filter leaves nothing). An empty id list writes nothing.
+void GENERATE_VATERA(Query& VAR_QUERY, StringList& list, const std::string& SITE,
+                     const std::string& PATH);
 
 }  // namespace talmo

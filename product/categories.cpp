@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-#include "app/lookup.h"
-#include "app/strings.h"
+#include "core/lookup.h"
+#include "core/strings.h"
 
 namespace talmo {
 namespace {

@@ -5,9 +5,9 @@
 #include <cstdlib>
 #include <limits>
 
-#include "app/errors.h"
-#include "app/strings.h"
-#include "app/text_utils.h"
+#include "core/errors.h"
+#include "core/strings.h"
+#include "core/text_utils.h"
 
 namespace talmo {
 

@@ -1,8 +1,8 @@
 #include "product/pricing.h"
 
-#include "app/lookup.h"
-#include "app/strings.h"
-#include "app/text_utils.h"
+#include "core/lookup.h"
+#include "core/strings.h"
+#include "core/text_utils.h"
 #include "product/price_rounding.h"
 
 namespace talmo {

@@ -1,8 +1,8 @@
 #include "product/product_links.h"
 
-#include "app/lookup.h"
-#include "app/strings.h"
-#include "app/text_utils.h"
+#include "core/lookup.h"
+#include "core/strings.h"
+#include "core/text_utils.h"
 #include "product/categories.h"
 #include "product/slug.h"
 #include "product/translation.h"

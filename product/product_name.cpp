@@ -2,9 +2,9 @@
 
 #include <string_view>
 
-#include "app/lookup.h"
-#include "app/strings.h"
-#include "app/text_utils.h"
+#include "core/lookup.h"
+#include "core/strings.h"
+#include "core/text_utils.h"
 
 namespace talmo {
 namespace {

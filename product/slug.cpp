@@ -1,6 +1,6 @@
 #include "product/slug.h"
 
-#include "app/strings.h"
+#include "core/strings.h"
 
 namespace talmo {
 namespace {

@@ -1,7 +1,7 @@
 #include "product/translation.h"
 
-#include "app/lookup.h"
-#include "app/strings.h"
+#include "core/lookup.h"
+#include "core/strings.h"
 
 namespace talmo {
 

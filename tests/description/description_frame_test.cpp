@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "app/strings.h"
+#include "core/strings.h"
 #include "description/article_links.h"
 #include "tests/description/section_html.h"
 

@@ -2,8 +2,7 @@
 // console lines the operators see.
 #include <gtest/gtest.h>
 
-#include "app/errors.h"
-#include "app/run_state.h"
+#include "core/errors.h"
 #include "feeds/grando.h"
 #include "feeds/heureka_sk.h"
 #include "feeds/talmo.h"
@@ -21,19 +20,19 @@ class Converters : public ::testing::Test {
   }
 
   TempDir dir_;
+  std::string PATH;
 };
 
 TEST_F(Converters, TalmoWritesColumnsByNameAndTheFixedShippingLine) {
-  TALMO_DB = 0;
-  OSZLOP_DB = 0;
-  GENERATE_TALMO_HEADER();
-  TALMO_DB = 3;
-  TALMOP.resize(3);
-  TALMOP[1].OSZLOP = {"Asus K55",        "Asus K55 - i5", "i5, 4GB",    "123490",
-                      "https://x/a.jpg", "https://x/p",   "1 munkanap", "890"};
-  TALMOP[2].OSZLOP = {"", "", "", "1 & <2>", "", "", "1 munkanap", "890"};
+  ColumnTable TALMOP;
+  GENERATE_TALMO_HEADER(TALMOP);
+  TALMOP.row_count = 3;
+  TALMOP.rows.resize(3);
+  TALMOP.rows[1].OSZLOP = {"Asus K55",        "Asus K55 - i5", "i5, 4GB",    "123490",
+                           "https://x/a.jpg", "https://x/p",   "1 munkanap", "890"};
+  TALMOP.rows[2].OSZLOP = {"", "", "", "1 & <2>", "", "", "1 munkanap", "890"};
   CapturedStdout out;
-  TALMO2XML();
+  TALMO2XML(TALMOP, PATH);
   EXPECT_EQ(out.text(), "Converting to XML:  50%\nConverting to XML: 100%\nSaving File: " + PATH +
                             "export/hu/talmo.xml\n");
   expect_same_text(
@@ -64,16 +63,13 @@ TEST_F(Converters, TalmoWritesColumnsByNameAndTheFixedShippingLine) {
 }
 
 TEST_F(Converters, GrandoMapsWarrantiesToCodesAndPrintsNoSavingLine) {
-  GRANDO_DB = 0;
-  OSZLOP_DB = 0;
-  GENERATE_GRANDO_HEADER();
-  ASSERT_EQ(OSZLOP_DB, 10);
-  for (const std::string warranty : {"24 hónap", "", "12 hónap"}) {
-    GRANDO.push_back(OSZ{{"n", "p", "1", "d", "l", "2", warranty, "m", "i", "c"}});
-    ++GRANDO_DB;
-  }
+  ColumnTable GRANDO;
+  GENERATE_GRANDO_HEADER(GRANDO);
+  ASSERT_EQ(GRANDO.column_count, 10);
+  for (const std::string warranty : {"24 hónap", "", "12 hónap"})
+    add_item_row(GRANDO, {"n", "p", "1", "d", "l", "2", warranty, "m", "i", "c"});
   CapturedStdout out;
-  GRANDO2XML();
+  GRANDO2XML(GRANDO, PATH);
   EXPECT_EQ(out.text(),
             "Converting to XML:  33%\nConverting to XML:  67%\nConverting to XML: 100%\n");
   std::string expected = "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n<products>\n";
@@ -99,17 +95,14 @@ TEST_F(Converters, GrandoMapsWarrantiesToCodesAndPrintsNoSavingLine) {
 }
 
 TEST_F(Converters, HeurekaKeepsDeliveryDateEmptyAndParamsUnescaped) {
-  HEUREKASK_DB = 0;
-  OSZLOP_DB = 0;
-  GENERATE_HEUREKASK_HEADER();
-  ASSERT_EQ(OSZLOP_DB, 14);
-  HEUREKASK.push_back(
-      OSZ{{"1-a", "Asus K55", "Asus K55 - i5", "i5", "https://u", "https://i1", "https://i2",
-           "499,90", "<PARAM_NAME>x</PARAM_NAME>", "A&B", "Heureka.sk | Tablet | A&B", "3",
-           "<DELIVERY_ID>UPS</DELIVERY_ID>", ""}});
-  ++HEUREKASK_DB;
+  ColumnTable HEUREKASK;
+  GENERATE_HEUREKASK_HEADER(HEUREKASK);
+  ASSERT_EQ(HEUREKASK.column_count, 14);
+  add_item_row(HEUREKASK, {"1-a", "Asus K55", "Asus K55 - i5", "i5", "https://u", "https://i1",
+                           "https://i2", "499,90", "<PARAM_NAME>x</PARAM_NAME>", "A&B",
+                           "Heureka.sk | Tablet | A&B", "3", "<DELIVERY_ID>UPS</DELIVERY_ID>", ""});
   CapturedStdout out;
-  HEUREKASK2XML();
+  HEUREKASK2XML(HEUREKASK, PATH);
   EXPECT_EQ(out.text(),
             "Converting to XML: 100%\nSaving Output File: " + PATH + "export/sk/heureka.xml\n");
   expect_same_text(
@@ -136,17 +129,15 @@ TEST_F(Converters, HeurekaKeepsDeliveryDateEmptyAndParamsUnescaped) {
 }
 
 TEST_F(Converters, HeaderOnlyTablesWriteTheBareFrameWithoutProgress) {
-  TALMO_DB = 0;
-  GENERATE_TALMO_HEADER();
-  GRANDO_DB = 0;
-  GENERATE_GRANDO_HEADER();
-  HEUREKASK_DB = 0;
-  GENERATE_HEUREKASK_HEADER();
-  ASSERT_EQ(TALMOP.size(), 1u);
+  ColumnTable TALMOP, GRANDO, HEUREKASK;
+  GENERATE_TALMO_HEADER(TALMOP);
+  GENERATE_GRANDO_HEADER(GRANDO);
+  GENERATE_HEUREKASK_HEADER(HEUREKASK);
+  ASSERT_EQ(TALMOP.rows.size(), 1u);
   CapturedStdout out;
-  TALMO2XML();
-  GRANDO2XML();
-  HEUREKASK2XML();
+  TALMO2XML(TALMOP, PATH);
+  GRANDO2XML(GRANDO, PATH);
+  HEUREKASK2XML(HEUREKASK, PATH);
   EXPECT_EQ(out.text(), "Saving File: " + PATH + "export/hu/talmo.xml\nSaving Output File: " +
                             PATH + "export/sk/heureka.xml\n");
   EXPECT_EQ(read_file(PATH + "export/hu/talmo.xml"),
@@ -156,12 +147,12 @@ TEST_F(Converters, HeaderOnlyTablesWriteTheBareFrameWithoutProgress) {
 }
 
 TEST_F(Converters, MissingExportFolderFailsNamingTheFeedFile) {
-  HEUREKASK_DB = 0;
-  GENERATE_HEUREKASK_HEADER();
+  ColumnTable HEUREKASK;
+  GENERATE_HEUREKASK_HEADER(HEUREKASK);
   PATH = dir_.path() + "/nowhere/";
   CapturedStdout out;
   try {
-    HEUREKASK2XML();
+    HEUREKASK2XML(HEUREKASK, PATH);
     FAIL() << "saving into a missing folder must fail";
   } catch (const FileError& error) {
     EXPECT_EQ(std::string(error.what()),

@@ -4,8 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "app/run_state.h"
-#include "app/text_utils.h"
+#include "core/text_utils.h"
 #include "description/long_description.h"
 #include "feeds/grando.h"
 #include "tests/support/test_support.h"
@@ -93,13 +92,12 @@ TEST_F(GrandoFields, CategoryNumberFromManufacturerSeriesAndMainKind) {
 }
 
 TEST_F(GrandoFields, LineAppendsTheTenFieldsInColumnOrder) {
-  GRANDO_DB = 0;
-  OSZLOP_DB = 0;
-  GENERATE_GRANDO_HEADER();
+  ColumnTable GRANDO;
+  GENERATE_GRANDO_HEADER(GRANDO);
   CapturedStdout out;
-  EXPECT_EQ(GENERATE_GRANDO_LINE(db_.query, "1", "hu"), "");
-  ASSERT_EQ(GRANDO_DB, 2);
-  ASSERT_EQ(GRANDO.size(), 2u);
+  EXPECT_EQ(GENERATE_GRANDO_LINE(db_.query, "1", "hu", GRANDO), "");
+  ASSERT_EQ(GRANDO.row_count, 2);
+  ASSERT_EQ(GRANDO.rows.size(), 2u);
   const std::string site = GETSITEURL("hu");
   const StringList expected = {
       "Asus N56VZ-S4044H - i5-3210M LAPTOP, NOTEBOOK",
@@ -115,16 +113,15 @@ TEST_F(GrandoFields, LineAppendsTheTenFieldsInColumnOrder) {
       site + "/images/stories/virtuemart/product/ASUS-N56VZ-01-" + GETSITENAME("hu") + ".jpg",
       "9611",
   };
-  EXPECT_EQ(GRANDO[1].OSZLOP, expected);
+  EXPECT_EQ(GRANDO.rows[1].OSZLOP, expected);
 }
 
 TEST_F(GrandoFields, LineShowsTheHigherWholePriceAsListPrice) {
   struct Case {
     std::string id, price, discount_price;
   };
-  GRANDO_DB = 0;
-  OSZLOP_DB = 0;
-  GENERATE_GRANDO_HEADER();
+  ColumnTable GRANDO;
+  GENERATE_GRANDO_HEADER(GRANDO);
   CapturedStdout out;
   // List prices from the old net price: 100000 x 1.27 = 127000, ending 127090, raised by 4 % to
   // 132173.6, so 132190 (product 1 in the line above); 80000 gives 101600, 101690, 105757.6, so
@@ -135,11 +132,11 @@ TEST_F(GrandoFields, LineShowsTheHigherWholePriceAsListPrice) {
       {"3", "132190", "150000.5"},  // not a whole number: no comparison
   };
   for (const Case& c : cases)
-    GENERATE_GRANDO_LINE(db_.query, c.id, "hu");
-  ASSERT_EQ(GRANDO.size(), cases.size() + 1);
+    GENERATE_GRANDO_LINE(db_.query, c.id, "hu", GRANDO);
+  ASSERT_EQ(GRANDO.rows.size(), cases.size() + 1);
   for (std::size_t i = 0; i < cases.size(); ++i) {
-    EXPECT_EQ(GRANDO[i + 1].OSZLOP[2], cases[i].price) << cases[i].id;
-    EXPECT_EQ(GRANDO[i + 1].OSZLOP[5], cases[i].discount_price) << cases[i].id;
+    EXPECT_EQ(GRANDO.rows[i + 1].OSZLOP[2], cases[i].price) << cases[i].id;
+    EXPECT_EQ(GRANDO.rows[i + 1].OSZLOP[5], cases[i].discount_price) << cases[i].id;
   }
 }
 

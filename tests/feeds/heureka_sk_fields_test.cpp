@@ -4,8 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "app/run_state.h"
-#include "app/strings.h"
+#include "core/strings.h"
 #include "description/short_description.h"
 #include "feeds/heureka_sk.h"
 #include "feeds/heureka_sk_params.h"
@@ -159,9 +158,8 @@ TEST_F(HeurekaSkFields, FailingParameterIsReportedWithItsMessageAndLeftOut) {
 }
 
 TEST_F(HeurekaSkFields, LineAppendsOneRowOfFourteenFieldsInColumnOrder) {
-  HEUREKASK_DB = 0;
-  OSZLOP_DB = 0;
-  GENERATE_HEUREKASK_HEADER();
+  ColumnTable HEUREKASK;
+  GENERATE_HEUREKASK_HEADER(HEUREKASK);
   CapturedStdout out;
   // Fields of other modules come from their own functions; the fixture makes them all differ.
   const StringList expected = {
@@ -181,10 +179,10 @@ TEST_F(HeurekaSkFields, LineAppendsOneRowOfFourteenFieldsInColumnOrder) {
       "<DELIVERY_COD>4,40</DELIVERY_COD>",
       "",
   };
-  EXPECT_EQ(GENERATE_HEUREKASK_LINE(db_.query, "1", "sk"), "");
-  ASSERT_EQ(HEUREKASK_DB, 2);
-  ASSERT_EQ(HEUREKASK.size(), 2u);
-  EXPECT_EQ(HEUREKASK[1].OSZLOP, expected);
+  EXPECT_EQ(GENERATE_HEUREKASK_LINE(db_.query, "1", "sk", HEUREKASK), "");
+  ASSERT_EQ(HEUREKASK.row_count, 2);
+  ASSERT_EQ(HEUREKASK.rows.size(), 2u);
+  EXPECT_EQ(HEUREKASK.rows[1].OSZLOP, expected);
   EXPECT_EQ(out.text(), "");
 }
 

@@ -1,7 +1,6 @@
 // The TALMO line builder's own fields against the private database.
 #include <gtest/gtest.h>
 
-#include "app/run_state.h"
 #include "feeds/talmo.h"
 #include "tests/support/test_support.h"
 
@@ -33,14 +32,13 @@ TEST_F(TalmoFields, ArticleLabelTrimsBothParts) {
 }
 
 TEST_F(TalmoFields, LineAppendsOneRowOfEightFieldsInColumnOrder) {
-  TALMO_DB = 0;
-  OSZLOP_DB = 0;
-  GENERATE_TALMO_HEADER();
+  ColumnTable TALMOP;
+  GENERATE_TALMO_HEADER(TALMOP);
   CapturedStdout out;  // no tax row: the price computation reports and gives "0"
-  EXPECT_EQ(GENERATE_TALMO_LINE(db_.query, "9", "hu"), "");
-  ASSERT_EQ(TALMO_DB, 2);
-  ASSERT_EQ(TALMOP.size(), 2u);
-  const StringList& row = TALMOP[1].OSZLOP;
+  EXPECT_EQ(GENERATE_TALMO_LINE(db_.query, "9", "hu", TALMOP), "");
+  ASSERT_EQ(TALMOP.row_count, 2);
+  ASSERT_EQ(TALMOP.rows.size(), 2u);
+  const StringList& row = TALMOP.rows[1].OSZLOP;
   ASSERT_EQ(row.size(), 8u);
   EXPECT_EQ(row[0], "");
   EXPECT_EQ(row[1], " - ");

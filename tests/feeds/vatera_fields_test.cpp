@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "app/text_utils.h"
+#include "core/text_utils.h"
 #include "description/long_description.h"
 #include "feeds/vatera.h"
 #include "tests/support/test_support.h"

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "app/strings.h"
+#include "core/strings.h"
 #include "tests/support/test_support.h"
 
 namespace talmo::testing {

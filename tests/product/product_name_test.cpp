@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "app/errors.h"
+#include "core/errors.h"
 #include "tests/support/test_support.h"
 
 namespace talmo::testing {

@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-#include "app/database.h"
+#include "core/database.h"
 
 namespace talmo::testing {
 

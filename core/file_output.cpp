@@ -1,4 +1,4 @@
-#include "app/file_output.h"
+#include "core/file_output.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -7,7 +7,7 @@
 #include <cstdio>
 #include <optional>
 
-#include "app/errors.h"
+#include "core/errors.h"
 
 namespace talmo {
 namespace {

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "app/strings.h"
+#include "core/strings.h"
 
 namespace talmo {
 

@@ -1,9 +1,8 @@
-#include "app/progress.h"
+#include "core/progress.h"
 
-#include <chrono>
 #include <cmath>
 
-#include "app/strings.h"
+#include "core/strings.h"
 
 namespace talmo {
 namespace {
@@ -40,11 +39,6 @@ std::string format_duration(double milliseconds) {
   const std::int64_t millis = total % 1000;
   return two_figures(hours) + ":" + two_figures(minutes) + ":" + two_figures(seconds) + "." +
          std::to_string(millis);
-}
-
-std::int64_t clock_milliseconds() {
-  using namespace std::chrono;
-  return duration_cast<milliseconds>(system_clock::now().time_since_epoch()).count();
 }
 
 std::string progress_line(const std::string& label, const std::string& site, std::int64_t index,

@@ -1,4 +1,4 @@
-#include "app/progress.h"
+#include "core/progress.h"
 
 #include <gtest/gtest.h>
 

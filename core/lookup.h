@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "app/console.h"
-#include "app/database.h"
-#include "app/errors.h"
+#include "core/console.h"
+#include "core/database.h"
+#include "core/errors.h"
 
 namespace talmo {
 
@@ -16,6 +16,8 @@ enum class QueryErrorLine {
   with_message,
   // "Error in Query: " + statement + " | Error Message: " + message (third-level category).
   with_error_message,
+  // statement + "|" + message: the export's product id list, which has no lookup of its own.
+  id_list,
 };
 
 // The text of the error line for `query`'s current statement (which ends in "\n").

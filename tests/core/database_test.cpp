@@ -5,8 +5,8 @@
 #include <stdexcept>
 #include <vector>
 
-#include "app/database.h"
-#include "app/errors.h"
+#include "core/database.h"
+#include "core/errors.h"
 #include "tests/support/test_support.h"
 
 namespace talmo::testing {

@@ -1,10 +1,10 @@
-#include "app/strings.h"
+#include "core/strings.h"
 
 #include <cerrno>
 #include <cstdlib>
 #include <limits>
 
-#include "app/errors.h"
+#include "core/errors.h"
 
 namespace talmo {
 namespace {

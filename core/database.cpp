@@ -1,8 +1,8 @@
-#include "app/database.h"
+#include "core/database.h"
 
 #include <mysql.h>
 
-#include "app/errors.h"
+#include "core/errors.h"
 
 namespace talmo {
 

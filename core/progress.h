@@ -16,9 +16,6 @@ std::string padded_percent(std::int64_t part, std::int64_t whole);
 // milliseconds without leading zeros. The sign is dropped; 24 hours and more wrap around.
 std::string format_duration(double milliseconds);
 
-// Milliseconds of the wall clock, the reading elapsed times are measured from.
-std::int64_t clock_milliseconds();
-
 // The progress line of item `index` (from 0) of `count`, started at `start_ms`: percent, the
 // export's label, the site in upper case, the item counter, elapsed time and estimated time left.
 std::string progress_line(const std::string& label, const std::string& site, std::int64_t index,

@@ -3,8 +3,8 @@
 #include <initializer_list>
 #include <string>
 
-#include "app/database.h"
-#include "app/strings.h"
+#include "core/database.h"
+#include "core/strings.h"
 
 namespace talmo {
 

@@ -1,4 +1,4 @@
-#include "app/lookup.h"
+#include "core/lookup.h"
 
 namespace talmo {
 
@@ -10,6 +10,8 @@ std::string query_error_line(const Query& query, QueryErrorLine style, const std
       return "Error in Query: \r\r" + query.sql_text() + "\r\rSQL Return Message: \r\r" + message;
     case QueryErrorLine::with_error_message:
       return "Error in Query: " + query.sql_text() + " | Error Message: " + message;
+    case QueryErrorLine::id_list:
+      return query.sql_text() + "|" + message;
   }
   return "";
 }

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "app/strings.h"
+#include "core/strings.h"
 
 namespace talmo {
 
@@ -15,15 +15,22 @@ struct OSZ {
   StringList OSZLOP;
 };
 
-// Row 0 holds the column names, every later row one product's values in the same order.
-using ColumnTable = std::vector<OSZ>;
+// An XML feed's items while its export runs: row 0 holds the column names, every later row one
+// product's values in the same order. Each export owns its table (TALMOP, GRANDO, HEUREKASK)
+// and starts it empty, so a run never sees an earlier export's rows.
+struct ColumnTable {
+  std::vector<OSZ> rows;
+  std::int32_t row_count = 0;     // TALMO_DB, GRANDO_DB, HEUREKASK_DB: rows, header included
+  std::int32_t column_count = 0;  // OSZLOP_DB: set by the header, the width of every later row
+};
 
-// The header builders' step: one more row (row 0 after the counters were reset), the column
-// count OSZLOP_DB set to the number of names, the names stored in it.
-void add_header_row(ColumnTable& table, std::int32_t& row_count, const StringList& names);
+// The header builders' step: one more row (row 0 of a fresh table), the column count set to the
+// number of names, the names stored in it.
+void add_header_row(ColumnTable& table, const StringList& names);
 
-// The line builders' step: one more row of OSZLOP_DB columns holding `values` in column order.
-void add_item_row(ColumnTable& table, std::int32_t& row_count, const StringList& values);
+// The line builders' step: one more row of `column_count` cells holding `values` in column
+// order; values beyond the width are dropped, missing ones stay empty.
+void add_item_row(ColumnTable& table, const StringList& values);
 
 // How one XML feed lays out its items.
 struct XmlLayout {

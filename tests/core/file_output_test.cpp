@@ -1,4 +1,4 @@
-#include "app/file_output.h"
+#include "core/file_output.h"
 
 #include <sys/stat.h>
 
@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/errors.h"
+#include "core/errors.h"
 #include "tests/support/test_support.h"
 
 namespace talmo::testing {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "app/strings.h"
+#include "core/strings.h"
 
 namespace talmo {
 

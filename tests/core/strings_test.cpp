@@ -1,8 +1,8 @@
-#include "app/strings.h"
+#include "core/strings.h"
 
 #include <gtest/gtest.h>
 
-#include "app/errors.h"
+#include "core/errors.h"
 
 namespace talmo {
 namespace {

@@ -1,4 +1,4 @@
-#include "app/text_utils.h"
+#include "core/text_utils.h"
 
 #include "site_config.h"
 

@@ -3,7 +3,7 @@
 #include <sys/types.h>
 #include <string>
 
-#include "app/strings.h"
+#include "core/strings.h"
 
 namespace talmo {
 
