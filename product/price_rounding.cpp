@@ -10,6 +10,12 @@
 #include "core/text_utils.h"
 
 namespace talmo {
+namespace {
+
+// The cents every euro price ends in.
+constexpr double kCentsEnding = 0.90;
+
+}  // namespace
 
 double round_half_even(double value) {
   return std::nearbyint(value);
@@ -50,12 +56,11 @@ double forint_ending(std::int32_t rounded) {
 }
 
 double euro_ending(double calculated) {
-  static const double cents_ending = to_number(MAKEVALIDNUMERICVALUE("0.90"));
   const std::int32_t whole = round_to_int32(calculated);
   const double cents = round_half_even((calculated - whole) * 100);
   if (cents <= 90)
-    return whole + cents_ending;
-  return (static_cast<double>(whole) + 1) + cents_ending;
+    return whole + kCentsEnding;
+  return (static_cast<double>(whole) + 1) + kCentsEnding;
 }
 
 double round_for_site(double calculated, const std::string& SITE) {
