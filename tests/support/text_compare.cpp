@@ -83,8 +83,8 @@ std::string mask_times(const std::string& text) {
   return masked;
 }
 
-void expect_same_text(const std::string& expected, const std::string& actual,
-                      std::source_location where) {
+void expect_same_text(const std::string& expected, const std::string& actual, const char* file,
+                      int caller_line) {
   if (expected == actual)
     return;
   const std::vector<std::string> want = split_lines(expected);
@@ -98,7 +98,7 @@ void expect_same_text(const std::string& expected, const std::string& actual,
   std::size_t column = 0;
   while (column < a.size() && column < b.size() && a[column] == b[column])
     ++column;
-  ADD_FAILURE_AT(where.file_name(), static_cast<int>(where.line()))
+  ADD_FAILURE_AT(file, caller_line)
       << "texts differ at line " << line + 1 << ", column " << column + 1 << " (expected "
       << want.size() << " lines, got " << got.size() << ")\n"
       << "  expected: " << (line < want.size() ? excerpt(a, column) : none) << "\n"
