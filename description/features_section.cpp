@@ -52,74 +52,83 @@ void add_line(std::string& rows, const std::string& line) {
   rows = rows.empty() ? line : rows + "<br />" + line;
 }
 
-}  // namespace
+// Translations for the features' lines, made through their own cursor: the feature row stays
+// open on the shared one while they run.
+class LineTexts {
+ public:
+  LineTexts(Query& shared, const std::string& SITE)
+      : translations_(shared.connection()), site_(SITE) {}
 
-std::string GENERATELEIRAS_EGYEBJELLEMZOK(Query& VAR_QUERY, const std::string& IDX,
-                                          const std::string& SITE) {
-  // The feature row stays open on VAR_QUERY while its lines are translated through this cursor.
-  Query translations(VAR_QUERY.connection());
-  auto T = [&](const std::string& word) { return GETTRANSLATION(translations, word, SITE); };
-  auto labelled = [&](const std::string& label, const std::string& text) {
-    const std::string translated = T(label);
-    return HTML_STRONG(translated + ": ") + text;
-  };
+  std::string translated(const std::string& word) {
+    return GETTRANSLATION(translations_, word, site_);
+  }
+  // The translated label in bold with its colon, then `text`.
+  std::string labelled(const std::string& label, const std::string& text) {
+    const std::string word = translated(label);
+    return HTML_STRONG(word + ": ") + text;
+  }
+  std::string yes_image() { return HTML_ADDTRUEORFALSEIMAGE(true, translations_, site_); }
 
-  std::string ICONS;
-  std::string ROWS;
-  std::string EXTRAS;
-  // A failure ends the list; the lines before it stay.
-  guard_lookup(VAR_QUERY, [&] {
-    if (!open_lookup(VAR_QUERY,
-                     "SELECT wifi, usb, kartyaolvaso, hdmi, vga, webkamera, esata, express_card, "
-                     "bluetooth, lan, tv, 3g, ujjlenyomat_olvaso, kulonlegessegek, kiegeszitok, "
-                     "akkumulator FROM laptop_adatbazis WHERE id='" +
-                         IDX + "';"))
-      return;
-    for (const Feature& feature : kFeatures) {
-      const std::string value = feature.builder(VAR_QUERY.field_text(feature.column));
-      if (value.empty())
-        continue;
-      if (*feature.icon != '\0' &&
-          (*feature.icon_needs == '\0' || contains(value, feature.icon_needs))) {
-        if (!ICONS.empty())
-          ICONS += "<br /><br />";
-        ICONS += search_icon_link(feature.keyword, feature.icon);
-      }
-      std::string shown = REMOVEVAN(value);
-      if (*feature.removed != '\0')
-        shown = replace_all_ci(shown, feature.removed, "");
-      const std::string yes = HTML_ADDTRUEORFALSEIMAGE(true, translations, SITE);
-      add_line(ROWS, yes + " " + labelled(feature.label, shown));
+ private:
+  Query translations_;
+  const std::string& site_;
+};
+
+// One line per present port or extra, each with the yes-image; the search icons of the present
+// ones are gathered in ICONS.
+void add_feature_lines(const Query& row, LineTexts& texts, std::string& ICONS, std::string& ROWS) {
+  for (const Feature& feature : kFeatures) {
+    const std::string value = feature.builder(row.field_text(feature.column));
+    if (value.empty())
+      continue;
+    if (*feature.icon != '\0' &&
+        (*feature.icon_needs == '\0' || contains(value, feature.icon_needs))) {
+      if (!ICONS.empty())
+        ICONS += "<br /><br />";
+      ICONS += search_icon_link(feature.keyword, feature.icon);
     }
+    std::string shown = REMOVEVAN(value);
+    if (*feature.removed != '\0')
+      shown = replace_all_ci(shown, feature.removed, "");
+    const std::string yes = texts.yes_image();
+    add_line(ROWS, yes + " " + texts.labelled(feature.label, shown));
+  }
+}
 
-    // The free texts are shown translated, without the yes-image.
-    for (const auto& [column, label_word] :
-         {std::pair{"kulonlegessegek", "Egyebek"}, std::pair{"kiegeszitok", "Kiegészítõk"}}) {
-      const std::string text = VAR_QUERY.field_text(column);
-      if (text.empty())
-        continue;
-      const std::string label = labelled(label_word, "");
-      add_line(ROWS, label + T(text));
-    }
+// The free texts, shown translated, without the yes-image.
+void add_free_text_lines(const Query& row, LineTexts& texts, std::string& ROWS) {
+  for (const auto& [column, label_word] :
+       {std::pair{"kulonlegessegek", "Egyebek"}, std::pair{"kiegeszitok", "Kiegészítõk"}}) {
+    const std::string text = row.field_text(column);
+    if (text.empty())
+      continue;
+    const std::string label = texts.labelled(label_word, "");
+    add_line(ROWS, label + texts.translated(text));
+  }
+}
 
-    // "cells|running time"; without cells the stored text itself leads the line.
-    const std::string battery = VAR_QUERY.field_text("akkumulator");
-    const StringList parts = split_stored(battery, ITEMDELIMITER);
-    std::string line = battery;
-    if (!item_or_empty(parts, 0).empty())
-      line = labelled("Akkumulátor (cella)", parts[0]);
-    const std::string running_time = item_or_empty(parts, 1);
-    if (!running_time.empty()) {
-      if (!line.empty())
-        line += "<br />";
-      line += labelled("Üzemidõ", running_time);
-    }
+// The battery, stored as "cells|running time"; without cells the stored text itself leads the
+// line.
+void add_battery_line(const Query& row, LineTexts& texts, std::string& ROWS) {
+  const std::string battery = row.field_text("akkumulator");
+  const StringList parts = split_stored(battery, ITEMDELIMITER);
+  std::string line = battery;
+  if (!item_or_empty(parts, 0).empty())
+    line = texts.labelled("Akkumulátor (cella)", parts[0]);
+  const std::string running_time = item_or_empty(parts, 1);
+  if (!running_time.empty()) {
     if (!line.empty())
-      add_line(ROWS, line);
-  });
+      line += "<br />";
+    line += texts.labelled("Üzemidõ", running_time);
+  }
+  if (!line.empty())
+    add_line(ROWS, line);
+}
 
-  // Each later text puts its line break in front of everything gathered so far, as the shop's
-  // pages always showed them.
+// The product's extra texts for the site. Each later text puts its line break in front of
+// everything gathered so far, as the shop's pages always showed them.
+std::string extra_texts(Query& VAR_QUERY, const std::string& IDX, const std::string& SITE) {
+  std::string EXTRAS;
   guard_lookup(VAR_QUERY, [&] {
     if (!open_lookup(VAR_QUERY,
                      "SELECT ex_text FROM extra_jellemzo WHERE ex_product_type_id='0' AND "
@@ -131,6 +140,29 @@ std::string GENERATELEIRAS_EGYEBJELLEMZOK(Query& VAR_QUERY, const std::string& I
       EXTRAS = first ? EXTRAS + text : "<br />" + EXTRAS + text;
     }
   });
+  return EXTRAS;
+}
+
+}  // namespace
+
+std::string GENERATELEIRAS_EGYEBJELLEMZOK(Query& VAR_QUERY, const std::string& IDX,
+                                          const std::string& SITE) {
+  LineTexts texts(VAR_QUERY, SITE);
+  std::string ICONS;
+  std::string ROWS;
+  // A failure ends the list; the lines before it stay.
+  guard_lookup(VAR_QUERY, [&] {
+    if (!open_lookup(VAR_QUERY,
+                     "SELECT wifi, usb, kartyaolvaso, hdmi, vga, webkamera, esata, express_card, "
+                     "bluetooth, lan, tv, 3g, ujjlenyomat_olvaso, kulonlegessegek, kiegeszitok, "
+                     "akkumulator FROM laptop_adatbazis WHERE id='" +
+                         IDX + "';"))
+      return;
+    add_feature_lines(VAR_QUERY, texts, ICONS, ROWS);
+    add_free_text_lines(VAR_QUERY, texts, ROWS);
+    add_battery_line(VAR_QUERY, texts, ROWS);
+  });
+  const std::string EXTRAS = extra_texts(VAR_QUERY, IDX, SITE);
 
   const std::string title = GETTRANSLATION(VAR_QUERY, "Egyéb jellemzõk", SITE);
   std::string value = ROWS;
