@@ -19,39 +19,25 @@ bool is_digit(char c) {
   return c >= '0' && c <= '9';
 }
 
-// Position of `part` in `text` from `start`, comparing ASCII letters without case.
-std::size_t find_ci(std::string_view text, std::string_view part, std::size_t start) {
-  if (part.size() > text.size())
-    return std::string_view::npos;
-  for (std::size_t i = start; i + part.size() <= text.size(); ++i) {
-    std::size_t k = 0;
-    while (k < part.size() && upper_char(text[i + k]) == upper_char(part[k]))
-      ++k;
-    if (k == part.size())
-      return i;
-  }
-  return std::string_view::npos;
-}
-
-template <class Find>
-std::string replace_with(std::string_view text, std::string_view from, std::string_view to,
-                         Find find) {
+// Replaces every occurrence of `from` in `text`, where occurrences are found in `haystack`: the
+// text itself, or a copy of it with ASCII letters folded, which has the same length, so every
+// position found in it is the same position in the text.
+std::string replace_found(std::string_view text, std::string_view haystack, std::string_view from,
+                          std::string_view to) {
   if (from.empty())
     return std::string(text);
   std::string result;
   std::size_t pos = 0;
-  for (std::size_t hit = find(text, from, 0); hit != std::string_view::npos;
-       hit = find(text, from, pos)) {
+  for (std::size_t hit = haystack.find(from); hit != std::string_view::npos;
+       hit = haystack.find(from, pos)) {
+    if (result.empty())
+      result.reserve(text.size());
     result.append(text.substr(pos, hit - pos));
     result.append(to);
     pos = hit + from.size();
   }
   result.append(text.substr(pos));
   return result;
-}
-
-std::size_t find_exact(std::string_view text, std::string_view part, std::size_t start) {
-  return text.find(part, start);
 }
 
 }  // namespace
@@ -85,7 +71,7 @@ bool contains(std::string_view text, std::string_view part) {
 }
 
 bool contains_ci(std::string_view text, std::string_view part) {
-  return find_ci(text, part, 0) != std::string_view::npos;
+  return lower_ascii(text).find(lower_ascii(part)) != std::string::npos;
 }
 
 std::string trim(std::string_view text) {
@@ -99,11 +85,13 @@ std::string trim(std::string_view text) {
 }
 
 std::string replace_all(std::string_view text, std::string_view from, std::string_view to) {
-  return replace_with(text, from, to, find_exact);
+  return replace_found(text, text, from, to);
 }
 
 std::string replace_all_ci(std::string_view text, std::string_view from, std::string_view to) {
-  return replace_with(text, from, to, find_ci);
+  if (from.empty() || from.size() > text.size())
+    return std::string(text);
+  return replace_found(text, lower_ascii(text), lower_ascii(from), to);
 }
 
 const std::string& item_at(const StringList& list, std::size_t index) {
