@@ -92,13 +92,14 @@ void GENERATE_ARUKERESO(Query& VAR_QUERY, StringList& list, const std::string& S
   if (list.empty())
     return;
   const std::int64_t start = clock_milliseconds();
-  StringList lines{GENERATE_ARUKERESO_HEADER()};
+  ReplacingFile file(csv_path(PATH, SITE, "arukereso.csv"));
+  file.write_line(GENERATE_ARUKERESO_HEADER());
   drop_unpublished(VAR_QUERY, list, "Product with id: ");
   walk_items(VAR_QUERY, list, SITE, "% :: EXPORT :: (Type: ARUKERESO :: Site: ", start, true,
              [&](const std::string& IDX) {
-               lines.push_back(GENERATE_ARUKERESO_LINE(VAR_QUERY, IDX, SITE));
+               file.write_line(GENERATE_ARUKERESO_LINE(VAR_QUERY, IDX, SITE));
              });
-  save_lines(csv_path(PATH, SITE, "arukereso.csv"), lines);
+  file.commit();
 }
 
 }  // namespace talmo

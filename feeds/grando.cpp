@@ -3,7 +3,6 @@
 #include <cstddef>
 
 #include "core/errors.h"
-#include "core/file_output.h"
 #include "core/lookup.h"
 #include "core/strings.h"
 #include "core/system.h"
@@ -188,26 +187,32 @@ std::string GENERATE_GRANDO_LINE(Query& VAR_QUERY, const std::string& IDX, const
   return "";
 }
 
-void GRANDO2XML(const ColumnTable& GRANDO, const std::string& PATH) {
-  const XmlLayout layout{
+XmlLayout grando_layout() {
+  return XmlLayout{
       {"<?xml version=\"1.0\" encoding=\"UTF-8\" ?>", "<products>"}, "\t<product>", grando_element,
       {"\t\t<status><![CDATA[1]]></status>", "\t</product>"},        "</products>",
   };
-  save_lines(PATH + "export/hu/" + "grando.xml", convert_table_to_xml(GRANDO, layout));
+}
+
+void GRANDO2XML(XmlFeedFile& file) {
+  file.finish_items();
+  file.commit();
 }
 
 void GENERATE_GRANDO(Query& VAR_QUERY, StringList& list, const std::string& SITE,
                      const std::string& PATH) {
   if (list.empty())
     return;
+  XmlFeedFile file(PATH + "export/hu/" + "grando.xml", grando_layout());
   ColumnTable GRANDO;
+  file.attach(GRANDO);
   GENERATE_GRANDO_HEADER(GRANDO);
   drop_unpublished(VAR_QUERY, list, "Product with id: ");
   const std::int64_t start = clock_milliseconds();
   // Clearance items stay in: Grando is the feed that carries them.
   walk_items(VAR_QUERY, list, SITE, "% :: EXPORT :: (Type: GRANDO :: Site: ", start, false,
              [&](const std::string& IDX) { GENERATE_GRANDO_LINE(VAR_QUERY, IDX, SITE, GRANDO); });
-  GRANDO2XML(GRANDO, PATH);
+  GRANDO2XML(file);
 }
 
 }  // namespace talmo

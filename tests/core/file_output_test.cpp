@@ -72,5 +72,30 @@ TEST(SaveLines, FailureNamesTheFinalFileAndLeavesNothingBehind) {
   EXPECT_THROW(save_lines(dir.path() + "/missing/feed.csv", {"x"}), FileError);
 }
 
+TEST(ReplacingFile, OldFileStaysUntilTheNewOneIsCommitted) {
+  TempDir dir;
+  const std::string path = dir.path() + "/vatera.csv";
+  write_file(path, "old\n");
+  {
+    ReplacingFile file(path);
+    file.write_line("new");
+    EXPECT_EQ(read_file(path), "old\n");
+    EXPECT_EQ(entries_in(dir.path()), 2u);  // the feed and its temporary file
+  }  // abandoned, as when an export fails half-way
+  EXPECT_EQ(read_file(path), "old\n");
+  EXPECT_EQ(entries_in(dir.path()), 1u);
+  ReplacingFile file(path);
+  file.write_line("new");
+  file.commit();
+  EXPECT_EQ(read_file(path), "new\n");
+}
+
+TEST(ReplacingFile, MissingFolderIsReportedOnlyAtCommit) {
+  TempDir dir;
+  ReplacingFile file(dir.path() + "/sk/heureka.xml");
+  file.write_line("x");  // no error yet: the console reports it at the save
+  EXPECT_THROW(file.commit(), FileError);
+}
+
 }  // namespace
 }  // namespace talmo::testing

@@ -24,15 +24,15 @@ class Converters : public ::testing::Test {
 };
 
 TEST_F(Converters, TalmoWritesColumnsByNameAndTheFixedShippingLine) {
+  XmlFeedFile file(PATH + "export/hu/talmo.xml", talmo_layout());
   ColumnTable TALMOP;
+  file.attach(TALMOP);
   GENERATE_TALMO_HEADER(TALMOP);
-  TALMOP.row_count = 3;
-  TALMOP.rows.resize(3);
-  TALMOP.rows[1].OSZLOP = {"Asus K55",        "Asus K55 - i5", "i5, 4GB",    "123490",
-                           "https://x/a.jpg", "https://x/p",   "1 munkanap", "890"};
-  TALMOP.rows[2].OSZLOP = {"", "", "", "1 & <2>", "", "", "1 munkanap", "890"};
+  add_item_row(TALMOP, {"Asus K55", "Asus K55 - i5", "i5, 4GB", "123490", "https://x/a.jpg",
+                        "https://x/p", "1 munkanap", "890"});
+  add_item_row(TALMOP, {"", "", "", "1 & <2>", "", "", "1 munkanap", "890"});
   CapturedStdout out;
-  TALMO2XML(TALMOP, PATH);
+  TALMO2XML(file, PATH);
   EXPECT_EQ(out.text(), "Converting to XML:  50%\nConverting to XML: 100%\nSaving File: " + PATH +
                             "export/hu/talmo.xml\n");
   expect_same_text(
@@ -63,13 +63,15 @@ TEST_F(Converters, TalmoWritesColumnsByNameAndTheFixedShippingLine) {
 }
 
 TEST_F(Converters, GrandoMapsWarrantiesToCodesAndPrintsNoSavingLine) {
+  XmlFeedFile file(PATH + "export/hu/grando.xml", grando_layout());
   ColumnTable GRANDO;
+  file.attach(GRANDO);
   GENERATE_GRANDO_HEADER(GRANDO);
   ASSERT_EQ(GRANDO.column_count, 10);
   for (const std::string warranty : {"24 hónap", "", "12 hónap"})
     add_item_row(GRANDO, {"n", "p", "1", "d", "l", "2", warranty, "m", "i", "c"});
   CapturedStdout out;
-  GRANDO2XML(GRANDO, PATH);
+  GRANDO2XML(file);
   EXPECT_EQ(out.text(),
             "Converting to XML:  33%\nConverting to XML:  67%\nConverting to XML: 100%\n");
   std::string expected = "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n<products>\n";
@@ -95,14 +97,16 @@ TEST_F(Converters, GrandoMapsWarrantiesToCodesAndPrintsNoSavingLine) {
 }
 
 TEST_F(Converters, HeurekaKeepsDeliveryDateEmptyAndParamsUnescaped) {
+  XmlFeedFile file(PATH + "export/sk/heureka.xml", heureka_layout());
   ColumnTable HEUREKASK;
+  file.attach(HEUREKASK);
   GENERATE_HEUREKASK_HEADER(HEUREKASK);
   ASSERT_EQ(HEUREKASK.column_count, 14);
   add_item_row(HEUREKASK, {"1-a", "Asus K55", "Asus K55 - i5", "i5", "https://u", "https://i1",
                            "https://i2", "499,90", "<PARAM_NAME>x</PARAM_NAME>", "A&B",
                            "Heureka.sk | Tablet | A&B", "3", "<DELIVERY_ID>UPS</DELIVERY_ID>", ""});
   CapturedStdout out;
-  HEUREKASK2XML(HEUREKASK, PATH);
+  HEUREKASK2XML(file, PATH);
   EXPECT_EQ(out.text(),
             "Converting to XML: 100%\nSaving Output File: " + PATH + "export/sk/heureka.xml\n");
   expect_same_text(
@@ -129,15 +133,13 @@ TEST_F(Converters, HeurekaKeepsDeliveryDateEmptyAndParamsUnescaped) {
 }
 
 TEST_F(Converters, HeaderOnlyTablesWriteTheBareFrameWithoutProgress) {
-  ColumnTable TALMOP, GRANDO, HEUREKASK;
-  GENERATE_TALMO_HEADER(TALMOP);
-  GENERATE_GRANDO_HEADER(GRANDO);
-  GENERATE_HEUREKASK_HEADER(HEUREKASK);
-  ASSERT_EQ(TALMOP.rows.size(), 1u);
+  XmlFeedFile talmo(PATH + "export/hu/talmo.xml", talmo_layout());
+  XmlFeedFile grando(PATH + "export/hu/grando.xml", grando_layout());
+  XmlFeedFile heureka(PATH + "export/sk/heureka.xml", heureka_layout());
   CapturedStdout out;
-  TALMO2XML(TALMOP, PATH);
-  GRANDO2XML(GRANDO, PATH);
-  HEUREKASK2XML(HEUREKASK, PATH);
+  TALMO2XML(talmo, PATH);
+  GRANDO2XML(grando);
+  HEUREKASK2XML(heureka, PATH);
   EXPECT_EQ(out.text(), "Saving File: " + PATH + "export/hu/talmo.xml\nSaving Output File: " +
                             PATH + "export/sk/heureka.xml\n");
   EXPECT_EQ(read_file(PATH + "export/hu/talmo.xml"),
@@ -147,12 +149,12 @@ TEST_F(Converters, HeaderOnlyTablesWriteTheBareFrameWithoutProgress) {
 }
 
 TEST_F(Converters, MissingExportFolderFailsNamingTheFeedFile) {
-  ColumnTable HEUREKASK;
-  GENERATE_HEUREKASK_HEADER(HEUREKASK);
   PATH = dir_.path() + "/nowhere/";
+  // The temporary file cannot be made; that is reported at the save, not before.
+  XmlFeedFile file(PATH + "export/sk/heureka.xml", heureka_layout());
   CapturedStdout out;
   try {
-    HEUREKASK2XML(HEUREKASK, PATH);
+    HEUREKASK2XML(file, PATH);
     FAIL() << "saving into a missing folder must fail";
   } catch (const FileError& error) {
     EXPECT_EQ(std::string(error.what()),
