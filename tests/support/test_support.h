@@ -91,6 +91,14 @@ std::string read_file(const std::string& path);
 void write_file(const std::string& path, const std::string& content);
 // Whether anything (file, directory, link) exists at `path`.
 bool file_exists(const std::string& path);
+// The shop's default site settings, as the expected files and texts of the tests hold them.
+inline constexpr const char* kDefaultHostHu = "www.kelvor.hu";
+inline constexpr const char* kDefaultHostSk = "www.kelvor.sk";
+inline constexpr const char* kDefaultHostCz = "www.kelvor.cz";
+inline constexpr const char* kDefaultArticleBase = "https://www.kelvor.hu";
+// Whether the build was configured with those defaults (the CMake cache variables
+// TALMO_SITE_HOST_HU, TALMO_SITE_HOST_SK, TALMO_SITE_HOST_CZ and TALMO_HU_ARTICLE_BASE).
+bool built_with_default_site();
 // The shop's login as a first run writes it into config.dat.
 inline constexpr const char* kDefaultConfig = "127.0.0.1\n3306\nexprtr\nT7d3wq415M\nuj_db\n";
 // Sets `dir` up as the tool's directory in the shop: config.dat with the default login (which
@@ -139,3 +147,11 @@ void expect_same_text(const std::string& expected, const std::string& actual,
                       const char* file = __builtin_FILE(), int line = __builtin_LINE());
 
 }  // namespace talmo::testing
+
+// Skips the calling test, with a message saying why, in a build configured with other site
+// settings: what it expects names the shop's default hosts.
+#define TALMO_NEEDS_DEFAULT_SITE()                                                             \
+  if (!::talmo::testing::built_with_default_site())                                            \
+  GTEST_SKIP() << "needs the shop's default site settings (TALMO_SITE_HOST_HU=www.kelvor.hu, " \
+                  "TALMO_SITE_HOST_SK=www.kelvor.sk, TALMO_SITE_HOST_CZ=www.kelvor.cz, "       \
+                  "TALMO_HU_ARTICLE_BASE=https://www.kelvor.hu)"
