@@ -5,6 +5,7 @@
 #include "core/errors.h"
 #include "core/file_output.h"
 #include "core/lookup.h"
+#include "core/statements.h"
 #include "core/strings.h"
 #include "core/system.h"
 #include "description/long_description.h"
@@ -46,10 +47,7 @@ bool in_ultrabook_category(Query& VAR_QUERY, const std::string& IDX) {
   if (ULTRA_ID == "-1")
     return ULTRA;
   guard_lookup(VAR_QUERY, [&] {
-    ULTRA = open_lookup(VAR_QUERY,
-                        "SELECT prod_cat_id FROM product_categories WHERE prod_cat_type_id='0' "
-                        "AND prod_cat_product_id='" +
-                            IDX + "' " + "AND prod_cat_category_id='" + ULTRA_ID + "';");
+    ULTRA = open_lookup(VAR_QUERY, statements::product_in_category(IDX, ULTRA_ID));
   });
   return ULTRA;
 }
@@ -85,8 +83,7 @@ std::string GENERATE_GRANDO_NAME(Query& VAR_QUERY, const std::string& IDX,
   std::string GY;
   std::string N;
   guard_lookup(VAR_QUERY, [&] {
-    if (open_lookup(VAR_QUERY,
-                    "SELECT gyarto, nev FROM laptop_adatbazis WHERE id='" + IDX + "';")) {
+    if (open_lookup(VAR_QUERY, statements::product_columns({"gyarto", "nev"}, IDX))) {
       GY = VAR_QUERY.field_text("gyarto");
       N = VAR_QUERY.field_text("nev");
     }
@@ -97,8 +94,7 @@ std::string GENERATE_GRANDO_NAME(Query& VAR_QUERY, const std::string& IDX,
 std::string GENERATE_GRANDO_PRODUCT_ID(Query& VAR_QUERY, const std::string& IDX,
                                        const std::string& SITE) {
   if (ISONLYFORGRANDO(VAR_QUERY, IDX)) {
-    return lookup_text(VAR_QUERY, "SELECT sorszam FROM laptop_adatbazis WHERE id='" + IDX + "';",
-                       "sorszam");
+    return lookup_text(VAR_QUERY, statements::product_columns({"sorszam"}, IDX), "sorszam");
   }
   return GENERATE_PRODUCT_SKU(VAR_QUERY, IDX, SITE) + " " + "LAPTOP, NOTEBOOK";
 }
@@ -136,8 +132,7 @@ std::string GENERATE_GRANDO_DESCRIPTION(Query& VAR_QUERY, const std::string& IDX
 
 std::string GENERATE_GRANDO_WARRANTYF(Query& VAR_QUERY, const std::string& IDX,
                                       const std::string&) {
-  return trim(lookup_text(
-      VAR_QUERY, "SELECT garancia FROM laptop_adatbazis WHERE id='" + IDX + "';", "garancia"));
+  return trim(lookup_text(VAR_QUERY, statements::product_columns({"garancia"}, IDX), "garancia"));
 }
 
 std::string GENERATE_GRANDO_MANUFACTURER(Query& VAR_QUERY, const std::string& IDX,
@@ -149,7 +144,7 @@ std::string GENERATE_GRANDO_CATEGORY(Query& VAR_QUERY, const std::string& IDX, c
   bool found = false;
   std::string manufacturer;
   guard_lookup(VAR_QUERY, [&] {
-    if (open_lookup(VAR_QUERY, "SELECT gyarto FROM laptop_adatbazis WHERE id='" + IDX + "';")) {
+    if (open_lookup(VAR_QUERY, statements::product_columns({"gyarto"}, IDX))) {
       manufacturer = trim(VAR_QUERY.field_text("gyarto"));
       found = true;
     }
