@@ -1,8 +1,9 @@
 #include "feeds/grando.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 
-#include "core/errors.h"
 #include "core/file_output.h"
 #include "core/lookup.h"
 #include "core/statements.h"
@@ -55,11 +56,10 @@ bool in_ultrabook_category(Query& VAR_QUERY, const std::string& IDX) {
 // Grando shows the higher of the two prices as the list price; a price that is not a whole
 // number leaves both as they are.
 void apply_price_rule(std::string& price, const std::string& discount_price) {
-  try {
-    if (to_integer(discount_price) > to_integer(price))
-      price = discount_price;
-  } catch (const ConversionError&) {
-  }
+  const std::optional<std::int32_t> discount = parse_integer(discount_price);
+  const std::optional<std::int32_t> list = parse_integer(price);
+  if (discount && list && *discount > *list)
+    price = discount_price;
 }
 
 std::optional<std::string> grando_element(const std::string& name, const std::string& value) {
@@ -100,14 +100,11 @@ std::string GENERATE_GRANDO_PRODUCT_ID(Query& VAR_QUERY, const std::string& IDX,
 }
 
 std::string GENERATE_GRANDO_ADDPERCENT(std::int32_t PERCENT, const std::string& OSSZEG) {
-  std::int32_t value = 0;
-  try {
-    value = to_integer(OSSZEG);
-  } catch (const ConversionError&) {
+  const std::optional<std::int32_t> amount = parse_integer(OSSZEG);
+  if (!amount)
     return OSSZEG;
-  }
   // Any 32-bit amount raised by any 32-bit percent fits a 64-bit integer.
-  const auto raised = static_cast<std::int64_t>(round_half_even((PERCENT / 100.0 + 1.0) * value));
+  const auto raised = static_cast<std::int64_t>(round_half_even((PERCENT / 100.0 + 1.0) * *amount));
   std::string result = std::to_string(raised);
   const std::size_t figures = result.size() - (raised < 0 ? 1 : 0);
   if (figures >= 2)
