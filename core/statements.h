@@ -44,6 +44,8 @@ enum class StatementKind {
 // One statement: its kind, the values spliced into it and its exact text.
 class Statement {
  public:
+  // The functions below build every statement the tool runs; build one directly only for an
+  // unlisted statement, as tests do for a statement of their own.
   Statement(StatementKind kind, StringList parameters, std::string text)
       : kind_(kind), parameters_(std::move(parameters)), text_(std::move(text)) {}
 
