@@ -2,6 +2,8 @@
 
 #include <mysql.h>
 
+#include <utility>
+
 #include "core/errors.h"
 
 namespace talmo {
@@ -50,8 +52,10 @@ void Query::close() {
   position_ = 0;
 }
 
-void Query::set_sql(const std::string& text) {
+void Query::set_statement(Statement statement) {
   close();
+  statement_ = std::move(statement);
+  const std::string& text = statement_.text();
   sql_lines_.clear();
   std::string line;
   for (std::size_t i = 0; i < text.size(); ++i) {
