@@ -48,15 +48,6 @@ TEST(SaveLines, NewFileGetsUmaskDefaultAndExistingFileKeepsItsMode) {
   ::umask(mask);
 }
 
-TEST(SaveLines, PrivateModeIsForcedEvenOnAnExistingFile) {
-  TempDir dir;
-  write_file(dir.path() + "/config.dat", "old");
-  ::chmod((dir.path() + "/config.dat").c_str(), 0644);
-  save_lines_with_mode(dir.path() + "/config.dat", {"h", "p"}, 0600);
-  EXPECT_EQ(mode_of(dir.path() + "/config.dat"), 0600u);
-  EXPECT_EQ(read_file(dir.path() + "/config.dat"), "h\np\n");
-}
-
 TEST(SaveLines, FailureNamesTheFinalFileAndLeavesNothingBehind) {
   TempDir dir;
   // A non-empty folder in the feed's place cannot be replaced.
@@ -88,13 +79,6 @@ TEST(ReplacingFile, OldFileStaysUntilTheNewOneIsCommitted) {
   file.write_line("new");
   file.commit();
   EXPECT_EQ(read_file(path), "new\n");
-}
-
-TEST(ReplacingFile, MissingFolderIsReportedOnlyAtCommit) {
-  TempDir dir;
-  ReplacingFile file(dir.path() + "/sk/heureka.xml");
-  file.write_line("x");  // no error yet: the console reports it at the save
-  EXPECT_THROW(file.commit(), FileError);
 }
 
 }  // namespace

@@ -70,21 +70,5 @@ TEST(MakeValidNumericValue, KeepsOnlyTheLastSeparatorAsDecimalPoint) {
   }
 }
 
-// The fragments themselves are in the description sections' whole outputs.
-TEST(GetVar, RowFragmentsPerSite) {
-  EXPECT_EQ(GETVAR("megnevezes_szoveg", "cz"),
-            "<div id=\"linia\"><div id=\"oznacenie\"><p id=\"oznacenie_text\"><strong>");
-  EXPECT_EQ(GETVAR("leiras_szoveg", "HU"), "");  // site codes are compared exactly
-  EXPECT_EQ(GETVAR("other", "hu"), "");
-}
-
-TEST(TextDelimiters, CsvQuotingAndTildes) {
-  EXPECT_EQ(ADDTEXTDELIMITER2("15.6\" HD"), "\"15.6\"\" HD\"");
-  EXPECT_EQ(ADDTEXTDELIMITER2(""), "\"\"");
-  EXPECT_EQ(ADDTEXTDELIMITER2("\"\""), "\"\"\"\"\"\"");
-  EXPECT_EQ(ADDTEXTDELIMITER2("a,b"), "\"a,b\"");
-  EXPECT_EQ(ADDTEXTDELIMITER("a\"b"), "~a\"b~");
-}
-
 }  // namespace
 }  // namespace talmo

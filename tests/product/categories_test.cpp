@@ -63,43 +63,5 @@ TEST_F(Categories, KindsOfAProduct) {
   EXPECT_EQ(out.text(), "");
 }
 
-TEST_F(Categories, SeriesUnderTheManufacturersKind) {
-  struct Case {
-    std::string idx, series;
-  };
-  CapturedStdout out;
-  for (const Case& c : std::vector<Case>{
-           {"1", "VivoBook"},     // of 'Asus Laptop', though the product is not filed under it
-           {"2", "Transformer"},  // 'Asus Tablet'
-           {"3", ""},             // no kind: 'Asus ' is looked up and not found
-           {"6", "VivoBook"},     // manufacturer and series trimmed
-           {"9", ""},             // no category at all
-           {"10", ""},            // 'Lenovo Laptop' without a series
-           {"11", ""},            // no manufacturer
-           {"99", ""},            // no product
-       }) {
-    EXPECT_EQ(GETTHIRDCATEGORY(db_.query, c.idx), c.series) << c.idx;
-  }
-  EXPECT_EQ(out.text(), "");
-}
-
-TEST_F(Categories, IdFromNameAndLevel) {
-  struct Case {
-    std::string name, level, id;
-  };
-  CapturedStdout out;
-  for (const Case& c : std::vector<Case>{
-           {"Asus Laptop", "1", "10"},
-           {"Asus Laptop", "2", "30"},
-           {"Akció", "1", "51"},  // the newest of a repeated name
-           {"Laptop", "0", "1"},
-           {"Asus Laptop", "0", "-1"},
-       }) {
-    EXPECT_EQ(GETCATEGORYIDFROMNAMEANDLEVEL(db_.query, c.name, c.level), c.id)
-        << c.name << " " << c.level;
-  }
-  EXPECT_EQ(out.text(), "");
-}
-
 }  // namespace
 }  // namespace talmo::testing
