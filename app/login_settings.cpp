@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "core/errors.h"
 #include "core/file_input.h"
 #include "core/file_output.h"
 #include "core/strings.h"
@@ -11,6 +12,8 @@ namespace talmo {
 namespace {
 
 constexpr const char* kSettingsFile = "config.dat";
+// Five short lines; anything much larger is not a settings file.
+constexpr std::uint64_t kLargestSettingsFile = 64 * 1024;
 
 // Lines ending in "\n" or "\r\n"; a last line without a line end still counts.
 StringList split_lines(const std::string& content) {
@@ -42,7 +45,13 @@ LOGININFO parse_login_settings(const std::string& CONTENT) {
 }
 
 bool GETLOGININFO(const std::string& PATH, LOGININFO& LOGIN) {
-  const std::optional<std::string> content = read_whole_file(PATH + kSettingsFile);
+  const std::string path = PATH + kSettingsFile;
+  const PathFacts facts = path_facts(path);
+  if (!facts.exists)
+    return false;
+  if (!facts.regular || facts.size > kLargestSettingsFile)
+    throw FileError(path);
+  const std::optional<std::string> content = read_whole_file(path);
   if (!content)
     return false;
   LOGIN = parse_login_settings(*content);
@@ -50,9 +59,8 @@ bool GETLOGININFO(const std::string& PATH, LOGININFO& LOGIN) {
 }
 
 void SETLOGININFO(const std::string& PATH, const LOGININFO& LOGIN) {
-  save_lines_with_mode(PATH + kSettingsFile,
-                       {LOGIN.IP, LOGIN.PORT, LOGIN.USERNAME, LOGIN.PASSWORD, LOGIN.DATABASE},
-                       0600);
+  overwrite_lines(PATH + kSettingsFile,
+                  {LOGIN.IP, LOGIN.PORT, LOGIN.USERNAME, LOGIN.PASSWORD, LOGIN.DATABASE}, 0600);
 }
 
 }  // namespace talmo

@@ -23,8 +23,8 @@ const char kCreateDatabase[] =
 const char kCreateLogin[] =
     "CREATE USER 'exprtr'@'%' IDENTIFIED BY 'T7d3wq415M';\n"
     "CREATE USER 'exprtr'@'localhost' IDENTIFIED BY 'T7d3wq415M';\n"
-    "GRANT ALL PRIVILEGES ON uj_db.* TO 'exprtr'@'%';\n"
-    "GRANT ALL PRIVILEGES ON uj_db.* TO 'exprtr'@'localhost';\n";
+    "GRANT SELECT ON uj_db.* TO 'exprtr'@'%';\n"
+    "GRANT SELECT ON uj_db.* TO 'exprtr'@'localhost';\n";
 
 // The last lines of a log, enough to see why a start failed.
 std::string tail(const std::string& text) {
