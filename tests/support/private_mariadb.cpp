@@ -188,6 +188,24 @@ void PrivateMariaDb::reset_database() const {
   run_sql_file(source_path("db/schema.sql"));
 }
 
+void PrivateMariaDb::signal_server(int signal) const {
+  if (pid_ > 0)
+    ::kill(pid_, signal);
+}
+
+void PrivateMariaDb::restart() {
+  if (pid_ > 0) {
+    ::kill(pid_, SIGKILL);
+    wait_process(pid_, 60);
+    pid_ = -1;
+  }
+  for (int attempt = 1; !start_server(); ++attempt) {
+    if (attempt == 3)
+      throw std::runtime_error("mariadbd found no free port in three attempts");
+  }
+  ::setenv("MYSQL_TCP_PORT", std::to_string(port_).c_str(), 1);
+}
+
 DbSession::DbSession() : server(PrivateMariaDb::instance()), query(connection) {
   connection.open("127.0.0.1", "exprtr", "T7d3wq415M", "uj_db");
 }
