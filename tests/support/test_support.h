@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <map>
+#include <optional>
 #include <sstream>
 #include <streambuf>
 #include <string>
@@ -40,6 +41,12 @@ class PrivateMariaDb {
   void run_sql_file(const std::string& path) const;
   // Drops and recreates uj_db and loads db/schema.sql into it: every table empty.
   void reset_database() const;
+
+  // Sends `signal` to the server process: SIGSTOP freezes it, SIGCONT thaws it, SIGKILL kills it.
+  void signal_server(int signal) const;
+  // Starts the server again after it was killed, on a new port (MYSQL_TCP_PORT follows). Tables
+  // written shortly before the kill may have lost rows: reload what a test needs.
+  void restart();
 
  private:
   PrivateMariaDb();
@@ -130,11 +137,38 @@ struct RunResult {
   bool timed_out = false;
 };
 
+// Copies the built tool to dir/talmo_software unless it is there; returns that path.
+std::string place_tool(const std::string& dir);
+
 // Runs the built tool as dir/talmo_software (copied there unless present) with `dir` as working
 // directory, `stdin_text` as its whole input, and MYSQL_TCP_PORT pointing at the private server
 // when that runs; `environment` is applied last. Killed after 120 seconds.
 RunResult run_tool(const std::string& dir, const std::string& stdin_text,
                    const std::vector<std::string>& args = {}, const Environment& environment = {});
+
+// The built tool running in the background in `dir`, as a scheduler would start it: standard
+// input from the shell redirection `input` (e.g. "< answers.txt" or "<&-"), its outputs into
+// dir/out.txt and dir/err.txt, MYSQL_TCP_PORT pointing at the private server. Killed when the
+// object goes out of scope while it still runs.
+class BackgroundTool {
+ public:
+  BackgroundTool(const std::string& dir, const std::string& input, const Environment& environment);
+  ~BackgroundTool();
+  BackgroundTool(const BackgroundTool&) = delete;
+  BackgroundTool& operator=(const BackgroundTool&) = delete;
+
+  // Waits until standard output holds `text` (true), or the tool ended or `seconds` passed.
+  bool wait_for_output(const std::string& text, int seconds) const;
+  void send(int signal) const;
+  // The exit code (128 + signal when killed) once ended; killed after `seconds`.
+  int wait(int seconds);
+  std::string out() const;
+
+ private:
+  std::string dir_;
+  pid_t pid_ = -1;
+  std::optional<int> exit_code_;
+};
 
 // Replaces every clock reading "hh:nn:ss.z" (two figures, ":", two, ":", two, ".", one to three
 // figures) by "<time>", so outputs with elapsed times can be compared whole.
