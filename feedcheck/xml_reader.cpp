@@ -2,37 +2,49 @@
 // the size of the file. Nothing is fetched from the network and entities are not expanded.
 #include <libxml/xmlreader.h>
 
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
 
 #include "feedcheck/item_readers.h"
+#include "feedcheck/xml_error_place.h"
 
 namespace talmo::feedcheck {
 namespace {
 
 constexpr int kOptions = XML_PARSE_NONET | XML_PARSE_HUGE | XML_PARSE_BIG_LINES;
+constexpr std::size_t kTailSize = 256;
+constexpr std::size_t kRecentKeys = 64;
 
 struct FirstError {
   bool set = false;
+  int code = 0;
   int line = 0;
   int column = 0;
   std::string message;
-  std::string context;  // the item it happened in, when known
 };
 
 // What the walk over the document knows, shared with the error callback.
 struct Walk {
   FileReader* file = nullptr;
   bool read_failed = false;
+  bool input_ended = false;
+  std::size_t bytes = 0;
+  std::string tail;  // the last bytes read, to tell a file cut short
   FirstError error;
-  std::string place;  // where the reader is: which item, for an error's message
 };
 
 int read_chunk(void* context, char* buffer, int size) {
   Walk& walk = *static_cast<Walk*>(context);
   try {
-    return static_cast<int>(walk.file->read(buffer, static_cast<std::size_t>(size)));
+    const std::size_t got = walk.file->read(buffer, static_cast<std::size_t>(size));
+    walk.bytes += got;
+    walk.input_ended = got == 0;
+    walk.tail = (walk.tail + std::string(buffer, got));
+    if (walk.tail.size() > kTailSize)
+      walk.tail.erase(0, walk.tail.size() - kTailSize);
+    return static_cast<int>(got);
   } catch (const FileReadError&) {
     walk.read_failed = true;
     return -1;
@@ -48,13 +60,13 @@ void keep_first_fatal_error(void* context, xmlErrorPtr error) {
   if (error == nullptr || error->level != XML_ERR_FATAL || walk.error.set)
     return;
   walk.error.set = true;
+  walk.error.code = error->code;
   walk.error.line = error->line;
   walk.error.column = error->int2;
   walk.error.message = error->message ? error->message : "";
   while (!walk.error.message.empty() &&
          (walk.error.message.back() == '\n' || walk.error.message.back() == ' '))
     walk.error.message.pop_back();
-  walk.error.context = walk.place;
 }
 
 void ignore_message(void*, const char*, ...) {}
@@ -68,8 +80,8 @@ using ReaderPtr = std::unique_ptr<xmlTextReader, decltype(&xmlFreeTextReader)>;
 // Collects the items of one feed from the reader's nodes.
 class ItemCollector {
  public:
-  ItemCollector(const FeedKind& kind, const ItemHandler& on_item, Walk& walk)
-      : kind_(kind), on_item_(on_item), walk_(walk) {}
+  ItemCollector(const FeedKind& kind, const ItemHandler& on_item)
+      : kind_(kind), on_item_(on_item) {}
 
   void node(xmlTextReaderPtr reader) {
     const int type = xmlTextReaderNodeType(reader);
@@ -87,10 +99,7 @@ class ItemCollector {
     }
   }
 
-  std::size_t items() const { return number_; }
   const std::string& root() const { return root_; }
-
- private:
   void start_element(xmlTextReaderPtr reader, int depth) {
     const std::string name = text_of(xmlTextReaderConstName(reader));
     if (depth == 0) {
@@ -100,7 +109,6 @@ class ItemCollector {
       item_.number = ++number_;
       item_.line = static_cast<std::size_t>(xmlGetLineNo(xmlTextReaderCurrentNode(reader)));
       in_item_ = true;
-      update_place();
     } else if (in_item_ && depth == 2) {
       item_.fields.push_back(Field{name, "", false, false});
       in_field_ = true;
@@ -113,13 +121,12 @@ class ItemCollector {
   void end_element(int depth) {
     if (in_item_ && depth == 1) {
       in_item_ = false;
-      last_key_ = item_.value(kind_.key);
+      remember_key();
       on_item_(item_);
-      update_place();
     } else if (in_item_ && depth == 2) {
       in_field_ = false;
       if (item_.fields.back().name == kind_.key)
-        update_place();
+        remember_key();
     } else if (pair_depth_ == depth) {
       if (pair_part_.name == "PARAM_NAME")
         param_name_ = pair_part_.value;
@@ -140,20 +147,22 @@ class ItemCollector {
       pair_part_.append(text);
   }
 
-  // Names the item being read (or the one before) for the message of an error met now.
-  void update_place() {
-    const std::string number = std::to_string(number_);
-    if (in_item_) {
-      const std::string key = item_.value(kind_.key);
-      walk_.place = "in item " + number + (key.empty() ? "" : " (\"" + key + "\")");
-    } else {
-      walk_.place = "after item " + number + (last_key_.empty() ? "" : " (\"" + last_key_ + "\")");
-    }
+  // The key of item `number` when it was read, "" otherwise.
+  std::string key_of(std::size_t number) const {
+    const auto found = recent_keys_.find(number);
+    return found == recent_keys_.end() ? "" : found->second;
+  }
+
+ private:
+  // Keeps the keys of the last items read, to name the item an error is found in.
+  void remember_key() {
+    recent_keys_[item_.number] = item_.value(kind_.key);
+    if (recent_keys_.size() > kRecentKeys)
+      recent_keys_.erase(recent_keys_.begin());
   }
 
   const FeedKind& kind_;
   const ItemHandler& on_item_;
-  Walk& walk_;
   std::string root_;
   std::size_t number_ = 0;
   FeedItem item_;
@@ -162,15 +171,54 @@ class ItemCollector {
   Field pair_part_;
   int pair_depth_ = -1;
   std::string param_name_;
-  std::string last_key_;
+  std::map<std::size_t, std::string> recent_keys_;
 };
 
-FileProblem not_well_formed(const FirstError& error) {
+// Whether the file ends with the root element's closing tag (blanks after it allowed).
+bool ends_with_closing_tag(std::string tail, const std::string& root) {
+  while (!tail.empty() &&
+         (tail.back() == '\n' || tail.back() == '\r' || tail.back() == ' ' || tail.back() == '\t'))
+    tail.pop_back();
+  const std::string closing = "</" + root + ">";
+  return tail.size() >= closing.size() &&
+         tail.compare(tail.size() - closing.size(), closing.size(), closing) == 0;
+}
+
+// Names the item an error at `error` is in, or the one before it.
+std::string item_context(FileReader& file, const FeedKind& kind, const FirstError& error,
+                         const ItemCollector& collector) {
+  const ItemPlace place = locate_item(file, kind.item, static_cast<std::size_t>(error.line),
+                                      static_cast<std::size_t>(error.column));
+  const auto named = [&](std::size_t number) {
+    const std::string key = collector.key_of(number);
+    return key.empty() ? "" : " (\"" + key + "\")";
+  };
+  if (place.number == 0)
+    return "before the first item";
+  if (!place.inside)
+    return "after item " + std::to_string(place.number) + named(place.number);
+  std::string context = "in item " + std::to_string(place.number) + named(place.number);
+  if (collector.key_of(place.number).empty() && !collector.key_of(place.number - 1).empty())
+    context += ", after item " + std::to_string(place.number - 1) + named(place.number - 1);
+  return context;
+}
+
+FileProblem not_well_formed(FileReader& file, const FeedKind& kind, const Walk& walk,
+                            const ItemCollector& collector) {
+  const FirstError& error = walk.error;
+  if (walk.bytes == 0)
+    return {ProblemKind::NotWellFormed, "the file is empty"};
   if (!error.set)
     return {ProblemKind::NotWellFormed, "the XML reader stopped without saying why"};
-  std::string message = "line " + std::to_string(error.line) + ", column " +
-                        std::to_string(error.column) + ", " + error.context + ": " + error.message;
-  return {ProblemKind::NotWellFormed, message};
+  std::string message = error.message;
+  // The streaming parser reports a file that stops half-way as extra content at its end.
+  if (error.code == XML_ERR_DOCUMENT_END && walk.input_ended &&
+      !ends_with_closing_tag(walk.tail, kind.root)) {
+    message = std::string("the file ends before </") + kind.root + "> closes it: it was cut short";
+  }
+  return {ProblemKind::NotWellFormed,
+          "line " + std::to_string(error.line) + ", column " + std::to_string(error.column) + ", " +
+              item_context(file, kind, error, collector) + ": " + message};
 }
 
 }  // namespace
@@ -180,13 +228,12 @@ std::optional<FileProblem> read_xml_items(FileReader& file, const FeedKind& kind
   xmlSetGenericErrorFunc(nullptr, ignore_message);
   Walk walk;
   walk.file = &file;
-  walk.place = "before the first item";
   ReaderPtr reader(xmlReaderForIO(read_chunk, close_nothing, &walk, nullptr, nullptr, kOptions),
                    &xmlFreeTextReader);
   if (!reader)
     throw FileReadError(file.path());
   xmlTextReaderSetStructuredErrorHandler(reader.get(), keep_first_fatal_error, &walk);
-  ItemCollector collector(kind, on_item, walk);
+  ItemCollector collector(kind, on_item);
   int result = 0;
   while ((result = xmlTextReaderRead(reader.get())) == 1) {
     collector.node(reader.get());
@@ -196,7 +243,7 @@ std::optional<FileProblem> read_xml_items(FileReader& file, const FeedKind& kind
   if (walk.read_failed)
     throw FileReadError(file.path());
   if (result < 0 || walk.error.set)
-    return not_well_formed(walk.error);
+    return not_well_formed(file, kind, walk, collector);
   if (collector.root().empty())
     return FileProblem{ProblemKind::NotWellFormed, "the file holds no XML element"};
   if (collector.root() != kind.root) {
