@@ -158,7 +158,8 @@ void check_values(const Fields& fields, std::vector<Finding>& findings) {
 class VateraChecker : public ItemChecker {
  public:
   CheckedItem check(const FeedItem& item, std::vector<Finding>& findings) override {
-    const std::string_view record = item.fields.empty() ? "" : item.fields.front().value;
+    const std::string_view record =
+        item.fields.empty() ? std::string_view() : std::string_view(item.fields.front().value);
     Fields fields = split(record, kColumnCount - 1);
     if (fields.size() < kColumnCount) {
       findings.push_back({ProblemKind::WrongFields,

@@ -45,4 +45,9 @@ Severity kind_severity(ProblemKind kind) {
   return info(kind).severity;
 }
 
+bool stops_reading(const std::optional<FileProblem>& problem) {
+  return problem && (problem->kind == ProblemKind::NotWellFormed ||
+                     problem->kind == ProblemKind::NotSplittable);
+}
+
 }  // namespace talmo::feedcheck

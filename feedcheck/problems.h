@@ -58,4 +58,7 @@ struct FileProblem {
   std::string message;
 };
 
+// Whether the file's problem stopped its reading, so that its items were not all counted.
+bool stops_reading(const std::optional<FileProblem>& problem);
+
 }  // namespace talmo::feedcheck

@@ -113,9 +113,9 @@ std::string feed_object(const FeedReport& feed, const RunReport& report) {
   }
   return "    {\"feed\": " + quoted(feed.kind->name) + ", \"file\": " + quoted(feed.kind->file) +
          ", \"state\": " + quoted(state_name(feed.state)) + ", \"read_problem\": " +
-         (feed.state == FeedState::Checked ? "null" : quoted(feed.read_problem)) +
-         ", \"items\": " + std::to_string(feed.items) + ", \"file_problem\": " + file_problem +
-         ", \"problems\": " + counts(feed, Severity::Item) +
+         (feed.state == FeedState::Checked ? "null" : quoted(feed.read_problem)) + ", \"items\": " +
+         (stops_reading(feed.file_problem) ? "null" : std::to_string(feed.items)) +
+         ", \"file_problem\": " + file_problem + ", \"problems\": " + counts(feed, Severity::Item) +
          ", \"warnings\": " + counts(feed, Severity::Warning) +
          ", \"verdict\": " + quoted(verdict_name(feed.verdict)) +
          ", \"verdict_reason\": " + quoted(feed.verdict_reason) +

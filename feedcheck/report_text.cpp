@@ -171,8 +171,9 @@ std::string summary_section(const RunReport& report) {
       text += verdict_text(feed, report.publish_dir.has_value()) + "\n";
       continue;
     }
-    text += plural(feed.items, "item", "items") + ", " +
-            verdict_text(feed, report.publish_dir.has_value()) + "\n";
+    text += (stops_reading(feed.file_problem) ? "read up to its problem"
+                                              : plural(feed.items, "item", "items")) +
+            ", " + verdict_text(feed, report.publish_dir.has_value()) + "\n";
     std::string problems = feed.file_problem ? kind_title(feed.file_problem->kind) : "";
     const std::string items = counts_text(feed, Severity::Item);
     problems += (problems.empty() || items.empty() ? "" : ", ") + items;

@@ -26,7 +26,8 @@ bool tag_at(std::string_view text, std::size_t at, std::string_view name) {
 
 class ItemCounter {
  public:
-  explicit ItemCounter(const std::string& item) : open_(item), close_("/" + item) {}
+  ItemCounter(const std::string& item, const std::string& key)
+      : open_(item), close_("/" + item), key_(key), key_close_("</" + key + ">") {}
 
   // Counts the tags in `text` and returns how much of it was used up. Unless `whole`, a tag or
   // end marker that may run on past the text's end is left for the next piece.
@@ -57,10 +58,14 @@ class ItemCounter {
         at = lt + 4;
       } else if (tag_at(text, at, open_)) {
         ++place_.number;
+        place_.previous_key = std::move(place_.key);
+        place_.key.clear();
         const std::size_t after = at + open_.size();
         place_.inside = after >= text.size() || text[after] != '/';
       } else if (tag_at(text, at, close_)) {
         place_.inside = false;
+      } else if (place_.inside && tag_at(text, at, key_)) {
+        at = read_key(text, at + key_.size());
       }
     }
     return text.size();
@@ -69,19 +74,34 @@ class ItemCounter {
   ItemPlace place() const { return place_; }
 
  private:
+  // Takes the key's text when its closing tag is on the same piece; returns where to go on.
+  std::size_t read_key(std::string_view text, std::size_t at) {
+    const std::size_t start = text.find('>', at);
+    const std::size_t end = start == std::string_view::npos ? start : text.find(key_close_, start);
+    if (end == std::string_view::npos)
+      return at;
+    std::string_view key = text.substr(start + 1, end - start - 1);
+    if (key.substr(0, 9) == "<![CDATA[" && key.size() >= 12 && key.substr(key.size() - 3) == "]]>")
+      key = key.substr(9, key.size() - 12);
+    place_.key = std::string(key);
+    return end + key_close_.size();
+  }
+
   std::string open_;
   std::string close_;
+  std::string key_;
+  std::string key_close_;
   Skipping skipping_ = Skipping::Nothing;
   ItemPlace place_;
 };
 
 }  // namespace
 
-ItemPlace locate_item(FileReader& file, const std::string& item, std::size_t line,
-                      std::size_t column) {
+ItemPlace locate_item(FileReader& file, const std::string& item, const std::string& key,
+                      std::size_t line, std::size_t column) {
   file.rewind();
   ByteInput input(file);
-  ItemCounter counter(item);
+  ItemCounter counter(item, key);
   std::string text;
   std::size_t number = 1;
   std::size_t column_at = 1;  // the column of text's first byte

@@ -2,7 +2,6 @@
 // the size of the file. Nothing is fetched from the network and entities are not expanded.
 #include <libxml/xmlreader.h>
 
-#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -15,7 +14,6 @@ namespace {
 
 constexpr int kOptions = XML_PARSE_NONET | XML_PARSE_HUGE | XML_PARSE_BIG_LINES;
 constexpr std::size_t kTailSize = 256;
-constexpr std::size_t kRecentKeys = 64;
 
 struct FirstError {
   bool set = false;
@@ -100,6 +98,8 @@ class ItemCollector {
   }
 
   const std::string& root() const { return root_; }
+
+ private:
   void start_element(xmlTextReaderPtr reader, int depth) {
     const std::string name = text_of(xmlTextReaderConstName(reader));
     if (depth == 0) {
@@ -121,12 +121,9 @@ class ItemCollector {
   void end_element(int depth) {
     if (in_item_ && depth == 1) {
       in_item_ = false;
-      remember_key();
       on_item_(item_);
     } else if (in_item_ && depth == 2) {
       in_field_ = false;
-      if (item_.fields.back().name == kind_.key)
-        remember_key();
     } else if (pair_depth_ == depth) {
       if (pair_part_.name == "PARAM_NAME")
         param_name_ = pair_part_.value;
@@ -147,20 +144,6 @@ class ItemCollector {
       pair_part_.append(text);
   }
 
-  // The key of item `number` when it was read, "" otherwise.
-  std::string key_of(std::size_t number) const {
-    const auto found = recent_keys_.find(number);
-    return found == recent_keys_.end() ? "" : found->second;
-  }
-
- private:
-  // Keeps the keys of the last items read, to name the item an error is found in.
-  void remember_key() {
-    recent_keys_[item_.number] = item_.value(kind_.key);
-    if (recent_keys_.size() > kRecentKeys)
-      recent_keys_.erase(recent_keys_.begin());
-  }
-
   const FeedKind& kind_;
   const ItemHandler& on_item_;
   std::string root_;
@@ -171,7 +154,6 @@ class ItemCollector {
   Field pair_part_;
   int pair_depth_ = -1;
   std::string param_name_;
-  std::map<std::size_t, std::string> recent_keys_;
 };
 
 // Whether the file ends with the root element's closing tag (blanks after it allowed).
@@ -185,26 +167,24 @@ bool ends_with_closing_tag(std::string tail, const std::string& root) {
 }
 
 // Names the item an error at `error` is in, or the one before it.
-std::string item_context(FileReader& file, const FeedKind& kind, const FirstError& error,
-                         const ItemCollector& collector) {
-  const ItemPlace place = locate_item(file, kind.item, static_cast<std::size_t>(error.line),
-                                      static_cast<std::size_t>(error.column));
-  const auto named = [&](std::size_t number) {
-    const std::string key = collector.key_of(number);
-    return key.empty() ? "" : " (\"" + key + "\")";
+std::string item_context(FileReader& file, const FeedKind& kind, const FirstError& error) {
+  const ItemPlace place =
+      locate_item(file, kind.item, kind.key, static_cast<std::size_t>(error.line),
+                  static_cast<std::size_t>(error.column));
+  const auto named = [](std::size_t number, const std::string& key) {
+    return "item " + std::to_string(number) + (key.empty() ? "" : " (\"" + key + "\")");
   };
   if (place.number == 0)
     return "before the first item";
   if (!place.inside)
-    return "after item " + std::to_string(place.number) + named(place.number);
-  std::string context = "in item " + std::to_string(place.number) + named(place.number);
-  if (collector.key_of(place.number).empty() && !collector.key_of(place.number - 1).empty())
-    context += ", after item " + std::to_string(place.number - 1) + named(place.number - 1);
+    return "after " + named(place.number, place.key);
+  std::string context = "in " + named(place.number, place.key);
+  if (place.key.empty() && !place.previous_key.empty())
+    context += ", after " + named(place.number - 1, place.previous_key);
   return context;
 }
 
-FileProblem not_well_formed(FileReader& file, const FeedKind& kind, const Walk& walk,
-                            const ItemCollector& collector) {
+FileProblem not_well_formed(FileReader& file, const FeedKind& kind, const Walk& walk) {
   const FirstError& error = walk.error;
   if (walk.bytes == 0)
     return {ProblemKind::NotWellFormed, "the file is empty"};
@@ -216,9 +196,9 @@ FileProblem not_well_formed(FileReader& file, const FeedKind& kind, const Walk& 
       !ends_with_closing_tag(walk.tail, kind.root)) {
     message = std::string("the file ends before </") + kind.root + "> closes it: it was cut short";
   }
-  return {ProblemKind::NotWellFormed,
-          "line " + std::to_string(error.line) + ", column " + std::to_string(error.column) + ", " +
-              item_context(file, kind, error, collector) + ": " + message};
+  return {ProblemKind::NotWellFormed, "line " + std::to_string(error.line) + ", column " +
+                                          std::to_string(error.column) + ", " +
+                                          item_context(file, kind, error) + ": " + message};
 }
 
 }  // namespace
@@ -243,7 +223,7 @@ std::optional<FileProblem> read_xml_items(FileReader& file, const FeedKind& kind
   if (walk.read_failed)
     throw FileReadError(file.path());
   if (result < 0 || walk.error.set)
-    return not_well_formed(file, kind, walk, collector);
+    return not_well_formed(file, kind, walk);
   if (collector.root().empty())
     return FileProblem{ProblemKind::NotWellFormed, "the file holds no XML element"};
   if (collector.root() != kind.root) {
