@@ -9,7 +9,8 @@
 namespace talmo {
 
 FileReader::FileReader(const std::string& path) : path_(path) {
-  const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  // Not blocking: a named pipe put where a feed belongs must not hang the checker.
+  const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
   if (fd < 0) {
     missing_ = errno == ENOENT;
     problem_ = std::strerror(errno);
@@ -21,6 +22,7 @@ FileReader::FileReader(const std::string& path) : path_(path) {
     ::close(fd);
     return;
   }
+  ::fcntl(fd, F_SETFL, ::fcntl(fd, F_GETFL) & ~O_NONBLOCK);
   fd_ = fd;
 }
 

@@ -21,6 +21,15 @@ class ByteInput {
     return static_cast<unsigned char>(buffer_[at_++]);
   }
 
+  // Skips the byte order mark some editors put at the start of a UTF-8 file. Call it first.
+  void skip_byte_order_mark() {
+    if (at_ == size_ && !refill())
+      return;
+    if (size_ - at_ >= 3 && buffer_[at_] == '\xEF' && buffer_[at_ + 1] == '\xBB' &&
+        buffer_[at_ + 2] == '\xBF')
+      at_ += 3;
+  }
+
   // The byte next() would give, without taking it.
   int peek() {
     if (at_ == size_ && !refill())

@@ -61,6 +61,7 @@ bool take_line_end(int c, ByteInput& input) {
 
 std::optional<FileProblem> read_quoted_records(FileReader& file, const ItemHandler& on_record) {
   ByteInput input(file);
+  input.skip_byte_order_mark();
   std::size_t line = 1;
   std::size_t quote_line = 0;
   std::size_t records = 0;
@@ -150,6 +151,7 @@ std::optional<FileProblem> read_quoted_records(FileReader& file, const ItemHandl
 
 std::optional<FileProblem> read_vatera_records(FileReader& file, const ItemHandler& on_record) {
   ByteInput input(file);
+  input.skip_byte_order_mark();
   std::size_t line_number = 0;
   std::size_t records = 0;
   FeedItem record;

@@ -21,14 +21,15 @@ std::optional<FileProblem> read_xml_items(FileReader& file, const FeedKind& kind
                                           const ItemHandler& on_item);
 
 // Reads a CSV file whose fields are enclosed in double quotes (doubled inside) and joined by ","
-// record by record, a quoted field running over line ends; empty lines are skipped. Returns the
-// place where a record cannot be split (text after a closing quote, a quote in an unquoted
-// field, a quote never closed). Raises FileReadError.
+// record by record, a quoted field running over line ends; empty lines and a byte order mark are
+// skipped. Returns the place where a record cannot be split (text after a closing quote, a quote
+// in an unquoted field, a quote never closed). Raises FileReadError.
 std::optional<FileProblem> read_quoted_records(FileReader& file, const ItemHandler& on_record);
 
 // Reads the Vatera file: a line starting "7937228;" starts a record, any other line continues
 // the record before it (its description). Each record comes as one field holding its lines
-// joined by "\n". A first line that starts no record cannot be split. Raises FileReadError.
+// joined by "\n" (a byte order mark skipped). A first line that starts no record cannot be
+// split. Raises FileReadError.
 std::optional<FileProblem> read_vatera_records(FileReader& file, const ItemHandler& on_record);
 
 }  // namespace talmo::feedcheck

@@ -153,6 +153,21 @@ TEST(FeedcheckExitStatus, OneRowPerSituation) {
   }
 }
 
+TEST(FeedcheckCommand, APipeWhereAFeedBelongsIsReportedNotWaitedFor) {
+  TempDir dir;
+  copy_feeds("good", dir.path());
+  std::filesystem::remove(dir.path() + "/hu/grando.xml");
+  ASSERT_EQ(::mkfifo((dir.path() + "/hu/grando.xml").c_str(), 0600), 0);
+  const RunResult result = run_feedcheck({dir.path()});
+  EXPECT_FALSE(result.timed_out);
+  EXPECT_EQ(result.exit_code, 2);
+  EXPECT_NE(
+      result.out.find("Feeds not read\n  grando (hu/grando.xml): cannot be read: Not a regular "
+                      "file\n"),
+      std::string::npos)
+      << result.out;
+}
+
 TEST(FeedcheckCommand, HelpAndVersion) {
   const RunResult help = run_feedcheck({"--help"});
   EXPECT_EQ(help.exit_code, 0);

@@ -61,6 +61,7 @@ TEST(QuotedCsv, RecordsAndFields) {
       {"\"a\",\"b\"\r\n\r\n\n\"c\"\r\n", {"line 1: [a] [b]", "line 4: [c]"}, ""},
       {"\"a\",b,,\"c\"\n", {"line 1: [a] b  [c]"}, ""},
       {"\"a\",\n", {"line 1: [a] "}, ""},
+      {"\xEF\xBB\xBF\"a\"\n", {"line 1: [a]"}, ""},
       {"", {}, ""},
       {"\"a\",\"15.6\" matt\"\n\"b\"\n",
        {},
@@ -90,6 +91,10 @@ TEST(VateraCsv, ARecordRunsOverTheLinesOfItsDescription) {
        {"line 1: 7937228;a;<p>\n</p>\n\n7937228 x;", "line 5: 7937228;c"},
        ""},
       {"", {}, ""},
+      {"\xEF\xBB\xBF"
+       "7937228;a\r\n",
+       {"line 1: 7937228;a\r"},
+       ""},
       {"\n7937228;a\n",
        {},
        "not-splittable: line 1: starts no record (\"7937228;\") and follows none"},
