@@ -32,6 +32,13 @@ std::string number(double value) {
   return buffer;
 }
 
+// A number as short as it goes ("30", "12.5").
+std::string shortest(double value) {
+  char buffer[32];
+  std::snprintf(buffer, sizeof buffer, "%g", value);
+  return buffer;
+}
+
 std::string severity_name(Severity severity) {
   switch (severity) {
     case Severity::File:
@@ -159,7 +166,7 @@ std::string json_report(const RunReport& report) {
          ",\n  \"export_dir\": " + quoted(report.export_dir) +
          ",\n  \"compared_with\": " + quoted_or_null(report.compared_dir) +
          ",\n  \"publish_dir\": " + quoted_or_null(report.publish_dir) +
-         ",\n  \"price_change_percent\": " + number(report.price_change) +
+         ",\n  \"price_change_percent\": " + shortest(report.price_change) +
          ",\n  \"exit_status\": " + std::to_string(report.exit_status) +
          ",\n  \"exit_meaning\": " + quoted(exit_status_meaning(report.exit_status)) +
          ",\n  \"feeds\": [" + feeds + "\n  ],\n  \"problems\": " + kinds_array(report) + "\n}\n";
