@@ -92,12 +92,15 @@ class FeedRun {
         feed.verdict_reason = "the feed has a whole-file problem";
       return;
     }
-    const OtherCopy published = options_.previous_dir || !previous
-                                    ? read_other_copy(kind, *options_.publish_dir, "published")
-                                    : *previous;
+    // The published copy was read as the previous run unless --previous named another.
     std::optional<std::size_t> published_items;
-    if (published.usable)
-      published_items = published.items.size();
+    if (options_.previous_dir || !previous) {
+      const OtherCopy published = read_other_copy(kind, *options_.publish_dir, "published");
+      if (published.usable)
+        published_items = published.items.size();
+    } else if (previous->usable) {
+      published_items = previous->items.size();
+    }
     std::optional<std::string> reason =
         hold_back_reason(feed.file_problem, feed.items, published_items, options_.accept_shrink);
     if (!reason)
