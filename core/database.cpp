@@ -1,10 +1,53 @@
 #include "core/database.h"
 
+#include <errmsg.h>
 #include <mysql.h>
+#include <mysqld_error.h>
+
+#include <utility>
 
 #include "core/errors.h"
+#include "core/strings.h"
+#include "core/system.h"
 
 namespace talmo {
+namespace {
+
+constexpr unsigned int kDefaultTimeoutSeconds = 300;
+
+// TALMO_DB_TIMEOUT_S when it is a whole number of seconds above zero, else five minutes.
+unsigned int database_timeout_seconds() {
+  const std::optional<std::string> text = environment_value("TALMO_DB_TIMEOUT_S");
+  const std::optional<std::int32_t> seconds = text ? parse_integer(*text) : std::nullopt;
+  return seconds && *seconds > 0 ? static_cast<unsigned int>(*seconds) : kDefaultTimeoutSeconds;
+}
+
+// Errors after which the connection is of no more use: the client lost the server (gone away,
+// lost during a query, a read or write time-out), or the server shut down or killed it.
+bool connection_is_lost(unsigned int code) {
+  switch (code) {
+    case CR_SERVER_GONE_ERROR:
+    case CR_SERVER_LOST:
+    case CR_SERVER_LOST_EXTENDED:
+    case ER_SERVER_SHUTDOWN:
+    case ER_CONNECTION_KILLED:
+    case ER_NET_READ_INTERRUPTED:
+    case ER_NET_WRITE_INTERRUPTED:
+    case ER_NET_READ_ERROR:
+    case ER_NET_ERROR_ON_WRITE:
+      return true;
+    default:
+      return false;
+  }
+}
+
+[[noreturn]] void throw_statement_error(MYSQL* mysql) {
+  if (connection_is_lost(mysql_errno(mysql)))
+    throw ConnectionLost(mysql_error(mysql));
+  throw DatabaseError(mysql_error(mysql));
+}
+
+}  // namespace
 
 struct Connection::Handle {
   MYSQL* mysql = nullptr;
@@ -29,10 +72,15 @@ void Connection::open(const std::string& host, const std::string& user, const st
   if (handle_->mysql == nullptr)
     throw DatabaseError("Out of memory while connecting");
   mysql_options(handle_->mysql, MYSQL_SET_CHARSET_NAME, "utf8");
+  // A frozen server must not hang a nightly run: connect, read and write give up after this.
+  const unsigned int timeout = database_timeout_seconds();
+  mysql_options(handle_->mysql, MYSQL_OPT_CONNECT_TIMEOUT, &timeout);
+  mysql_options(handle_->mysql, MYSQL_OPT_READ_TIMEOUT, &timeout);
+  mysql_options(handle_->mysql, MYSQL_OPT_WRITE_TIMEOUT, &timeout);
   // Port 0: the client library's default, so MYSQL_TCP_PORT can point the tool elsewhere.
   if (mysql_real_connect(handle_->mysql, host.c_str(), user.c_str(), password.c_str(),
                          database.c_str(), 0, nullptr, 0) == nullptr) {
-    throw DatabaseError(mysql_error(handle_->mysql));
+    throw ConnectionLost(mysql_error(handle_->mysql));
   }
   handle_->connected = true;
 }
@@ -50,8 +98,10 @@ void Query::close() {
   position_ = 0;
 }
 
-void Query::set_sql(const std::string& text) {
+void Query::set_statement(Statement statement) {
   close();
+  statement_ = std::move(statement);
+  const std::string& text = statement_.text();
   sql_lines_.clear();
   std::string line;
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -88,13 +138,12 @@ void Query::open() {
       statement += '\n';
     statement += line;
   }
-  if (mysql_real_query(mysql, statement.data(), statement.size()) != 0) {
-    throw DatabaseError(mysql_error(mysql));
-  }
+  if (mysql_real_query(mysql, statement.data(), statement.size()) != 0)
+    throw_statement_error(mysql);
   MYSQL_RES* result = mysql_store_result(mysql);
   if (result == nullptr) {
     if (mysql_field_count(mysql) != 0)
-      throw DatabaseError(mysql_error(mysql));
+      throw_statement_error(mysql);
     throw DatabaseError("The statement returned no rows");
   }
   const unsigned int field_count = mysql_num_fields(result);

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "core/statements.h"
 #include "core/strings.h"
 
 namespace talmo {
@@ -41,8 +42,11 @@ class Query {
   Connection& connection() const { return connection_; }
 
   void close();
-  // Replaces the statement. It is kept as lines, so sql_text() ends every line with "\n".
-  void set_sql(const std::string& text);
+  // Closes the cursor and replaces its statement. The text is kept as lines, so a CR, LF or CRLF
+  // inside it (also one inside a spliced value) ends a line, and sql_text() ends each with "\n".
+  void set_statement(Statement statement);
+  // The statement last set; a new cursor holds an empty unlisted one.
+  const Statement& statement() const { return statement_; }
   std::string sql_text() const;
 
   // Runs the statement; it must return rows. Raises DatabaseError on any failure.
@@ -64,6 +68,7 @@ class Query {
   const std::optional<std::string>* current_cell(const std::string& name) const;
 
   Connection& connection_;
+  Statement statement_{StatementKind::unlisted, {}, ""};
   StringList sql_lines_;
   bool active_ = false;
   StringList column_names_;

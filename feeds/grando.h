@@ -6,6 +6,7 @@
 #include "core/database.h"
 #include "core/strings.h"
 #include "feeds/column_table.h"
+#include "feeds/xml_feed_file.h"
 
 namespace talmo {
 
@@ -56,9 +57,13 @@ void GENERATE_GRANDO_HEADER(ColumnTable& GRANDO);
 std::string GENERATE_GRANDO_LINE(Query& VAR_QUERY, const std::string& IDX, const std::string& SITE,
                                  ColumnTable& GRANDO);
 
-// Writes GRANDO as PATH + "export/hu/grando.xml", one <product> per row after the header,
-// warranty texts mapped to Grando's codes. Raises FileError when it cannot be written.
-void GRANDO2XML(const ColumnTable& GRANDO, const std::string& PATH);
+// The frame and items of grando.xml: one <product> per row, warranty texts mapped to Grando's
+// codes, a fixed status line.
+XmlLayout grando_layout();
+
+// Finishes grando.xml, whose items were written as GRANDO's rows were added: the converting
+// lines and the file (no saving line). Raises FileError when it cannot be written.
+void GRANDO2XML(XmlFeedFile& file);
 
 // The Grando list operation: the published filter, one item per product, clearance items
 // included, and grando.xml (a header-only file when the list is empty after the filter).

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "core/console.h"
-#include "core/file_output.h"
 #include "core/lookup.h"
+#include "core/statements.h"
 #include "core/system.h"
 #include "description/short_description.h"
 #include "feeds/arukereso.h"
@@ -79,9 +79,8 @@ std::string GENERATE_HEUREKASK_PRODUCT(Query& VAR_QUERY, const std::string& IDX,
   std::string result;
   guard_lookup(VAR_QUERY, [&] {
     if (!open_lookup(VAR_QUERY,
-                     "SELECT gyarto, tipusmegnevezes, extra_mezo, kiegeszitok FROM "
-                     "laptop_adatbazis WHERE id='" +
-                         IDX + "';"))
+                     statements::product_columns(
+                         {"gyarto", "tipusmegnevezes", "extra_mezo", "kiegeszitok"}, IDX)))
       return;
     // Everything is read before the name generator and the translations reuse the cursor.
     const std::string GY = VAR_QUERY.field_text("gyarto");
@@ -162,17 +161,20 @@ void GENERATE_HEUREKASK_HEADER(ColumnTable& HEUREKASK) {
   add_header_row(HEUREKASK, kHeurekaColumns);
 }
 
-void HEUREKASK2XML(const ColumnTable& HEUREKASK, const std::string& PATH) {
-  const XmlLayout layout{
+XmlLayout heureka_layout() {
+  return XmlLayout{
       {"<?xml version=\"1.0\" encoding=\"UTF-8\" ?>", "<SHOP>"},
       "\t<SHOPITEM>",
       heureka_element,
       {"\t</SHOPITEM>"},
       "</SHOP>",
   };
-  const StringList lines = convert_table_to_xml(HEUREKASK, layout);
+}
+
+void HEUREKASK2XML(XmlFeedFile& file, const std::string& PATH) {
+  file.finish_items();
   write_line("Saving Output File: " + PATH + "export/sk/heureka.xml");
-  save_lines(PATH + "export/sk/" + "heureka.xml", lines);
+  file.commit();
 }
 
 void GENERATE_HEUREKA_SK(Query& VAR_QUERY, StringList& list, const std::string& SITE,
@@ -180,14 +182,16 @@ void GENERATE_HEUREKA_SK(Query& VAR_QUERY, StringList& list, const std::string& 
   if (list.empty())
     return;
   const std::int64_t start = clock_milliseconds();
+  XmlFeedFile file(PATH + "export/sk/" + "heureka.xml", heureka_layout());
   ColumnTable HEUREKASK;
+  file.attach(HEUREKASK);
   GENERATE_HEUREKASK_HEADER(HEUREKASK);
   drop_unpublished(VAR_QUERY, list, "Product with id: ");
   walk_items(
       VAR_QUERY, list, SITE, "% :: EXPORT :: Progress windows (Type: HEUREKA.SK :: Site: ", start,
       false,
       [&](const std::string& IDX) { GENERATE_HEUREKASK_LINE(VAR_QUERY, IDX, SITE, HEUREKASK); });
-  HEUREKASK2XML(HEUREKASK, PATH);
+  HEUREKASK2XML(file, PATH);
 }
 
 }  // namespace talmo

@@ -5,6 +5,7 @@
 #include "core/database.h"
 #include "core/strings.h"
 #include "feeds/column_table.h"
+#include "feeds/xml_feed_file.h"
 
 namespace talmo {
 
@@ -58,9 +59,13 @@ std::string GENERATE_HEUREKASK_LINE(Query& VAR_QUERY, const std::string& IDX,
 // Starts the Heureka.sk column table: row 0 with the fourteen element names, OSZLOP_DB = 14.
 void GENERATE_HEUREKASK_HEADER(ColumnTable& HEUREKASK);
 
-// Writes HEUREKASK as PATH + "export/sk/heureka.xml", one <SHOPITEM> per row after the header.
-// Raises FileError when the file cannot be written.
-void HEUREKASK2XML(const ColumnTable& HEUREKASK, const std::string& PATH);
+// The frame and items of heureka.xml: one <SHOPITEM> per row, the delivery date always empty.
+XmlLayout heureka_layout();
+
+// Finishes heureka.xml (PATH + "export/sk/heureka.xml"), whose items were written as HEUREKASK's
+// rows were added: the converting lines, "Saving Output File: ", the file. Raises FileError when
+// the file cannot be written.
+void HEUREKASK2XML(XmlFeedFile& file, const std::string& PATH);
 
 // The Heureka.sk list operation: the published filter, one item per product, clearance items
 // included, and heureka.xml (a header-only file when the list is empty after the filter).

@@ -1,8 +1,8 @@
 #include "feeds/talmo.h"
 
 #include "core/console.h"
-#include "core/file_output.h"
 #include "core/lookup.h"
+#include "core/statements.h"
 #include "core/system.h"
 #include "description/short_description.h"
 #include "feeds/feed_loop.h"
@@ -46,8 +46,7 @@ std::string GENERATE_TALMO_CIKKSZAM(Query& VAR_QUERY, const std::string& IDX,
   (void)SITE;
   std::string result;
   guard_lookup(VAR_QUERY, [&] {
-    if (open_lookup(VAR_QUERY, "SELECT gyarto, tipusmegnevezes FROM laptop_adatbazis WHERE id='" +
-                                   IDX + "';")) {
+    if (open_lookup(VAR_QUERY, statements::product_columns({"gyarto", "tipusmegnevezes"}, IDX))) {
       result = trim(VAR_QUERY.field_text("gyarto")) + " " +
                trim(VAR_QUERY.field_text("tipusmegnevezes"));
     }
@@ -83,17 +82,20 @@ void GENERATE_TALMO_HEADER(ColumnTable& TALMOP) {
   add_header_row(TALMOP, kTalmoColumns);
 }
 
-void TALMO2XML(const ColumnTable& TALMOP, const std::string& PATH) {
-  const XmlLayout layout{
+XmlLayout talmo_layout() {
+  return XmlLayout{
       {"<?xml version=\"1.0\" encoding=\"UTF-8\" ?>", "<termeklista>"},
       "\t<termek>",
       talmo_element,
       {"\t\t<szallitas>890</szallitas>", "\t</termek>"},
       "</termeklista>",
   };
-  const StringList lines = convert_table_to_xml(TALMOP, layout);
+}
+
+void TALMO2XML(XmlFeedFile& file, const std::string& PATH) {
+  file.finish_items();
   write_line("Saving File: " + PATH + "export/hu/talmo.xml");
-  save_lines(PATH + "export/hu/" + "talmo.xml", lines);
+  file.commit();
 }
 
 void GENERATE_TALMO(Query& VAR_QUERY, StringList& list, const std::string& SITE,
@@ -104,11 +106,13 @@ void GENERATE_TALMO(Query& VAR_QUERY, StringList& list, const std::string& SITE,
   if (list.empty())
     return;
   const std::int64_t start = clock_milliseconds();
+  XmlFeedFile file(PATH + "export/hu/" + "talmo.xml", talmo_layout());
   ColumnTable TALMOP;
+  file.attach(TALMOP);
   GENERATE_TALMO_HEADER(TALMOP);
   walk_items(VAR_QUERY, list, SITE, "% :: EXPORT :: (Type: TALMO :: Site: ", start, true,
              [&](const std::string& IDX) { GENERATE_TALMO_LINE(VAR_QUERY, IDX, SITE, TALMOP); });
-  TALMO2XML(TALMOP, PATH);
+  TALMO2XML(file, PATH);
 }
 
 }  // namespace talmo

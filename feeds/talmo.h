@@ -5,6 +5,7 @@
 #include "core/database.h"
 #include "core/strings.h"
 #include "feeds/column_table.h"
+#include "feeds/xml_feed_file.h"
 
 namespace talmo {
 
@@ -29,9 +30,13 @@ std::string GENERATE_TALMO_LINE(Query& VAR_QUERY, const std::string& IDX, const 
 // Starts the TALMO column table: row 0 with the eight column names, OSZLOP_DB = 8.
 void GENERATE_TALMO_HEADER(ColumnTable& TALMOP);
 
-// Writes TALMOP as PATH + "export/hu/talmo.xml", one <termek> per row after the header.
-// Raises FileError when the file cannot be written.
-void TALMO2XML(const ColumnTable& TALMOP, const std::string& PATH);
+// The frame and items of talmo.xml: one <termek> per row, the shipping cost as a fixed line.
+XmlLayout talmo_layout();
+
+// Finishes talmo.xml (PATH + "export/hu/talmo.xml"), whose items were written as TALMOP's rows
+// were added: the converting lines, "Saving File: ", the file. Raises FileError when the file
+// cannot be written.
+void TALMO2XML(XmlFeedFile& file, const std::string& PATH);
 
 // The TALMO list operation: the published filter, then, unless nothing is left (the previous
 // talmo.xml then stays), one item per product but clearance items, and talmo.xml.

@@ -185,13 +185,13 @@ void GENERATE_VATERA(Query& VAR_QUERY, StringList& list, const std::string& SITE
   if (list.empty())
     return;
   const std::int64_t start = clock_milliseconds();
-  StringList lines;
+  ReplacingFile file(csv_path(PATH, SITE, "vatera.csv"));
   drop_unpublished(VAR_QUERY, list, "Product with id: ");
   walk_items(
       VAR_QUERY, list, SITE, "% :: EXPORT :: (Type: VATERA :: Site: ", start, true,
-      [&](const std::string& IDX) { lines.push_back(GENERATE_VATERA_LINE(VAR_QUERY, IDX, SITE)); });
+      [&](const std::string& IDX) { file.write_line(GENERATE_VATERA_LINE(VAR_QUERY, IDX, SITE)); });
   write_line("Saving output file: " + csv_path(PATH, SITE, "vatera.csv"));
-  save_lines(csv_path(PATH, SITE, "vatera.csv"), lines);
+  file.commit();
 }
 
 }  // namespace talmo

@@ -1,5 +1,5 @@
-// The checker over what the real export writes: a five-feed run over a small catalogue, checked
-// and published as the shop would after each export.
+// The checker over what the real export writes: the golden catalogue run for all five feeds,
+// checked and published as the shop would after each export.
 #include <gtest/gtest.h>
 
 #include "tests/feedcheck/feedcheck_support.h"
@@ -8,15 +8,16 @@ namespace talmo::testing {
 namespace {
 
 TEST(CheckAfterExport, TheFiveFeedsOfARealRun) {
+  TALMO_NEEDS_DEFAULT_SITE();
   PrivateMariaDb::instance().reset_database();
-  PrivateMariaDb::instance().run_sql_file(source_path("tests/e2e/fixtures/five_feeds.sql"));
+  PrivateMariaDb::instance().run_sql_file(source_path("tests/e2e/fixtures/catalogue.sql"));
   TempDir dir;
   prepare_run_directory(dir.path());
   const RunResult exported = run_tool(dir.path(), "y\ny\ny\ny\ny\n\n");
   ASSERT_EQ(exported.exit_code, 0) << exported.out;
 
-  expect_report({dir.path() + "/export"}, "five_feeds_export.txt",
-                {{"dir", dir.path() + "/export"}}, 1);
+  expect_report({dir.path() + "/export"}, "catalogue_export.txt", {{"dir", dir.path() + "/export"}},
+                1);
 
   write_file(dir.path() + "/www/hu/talmo.xml", "an older copy\n");
   const RunResult published =
@@ -28,8 +29,9 @@ TEST(CheckAfterExport, TheFiveFeedsOfARealRun) {
     EXPECT_EQ(read_file(dir.path() + "/www/" + file), read_file(dir.path() + "/export/" + file));
   }
   EXPECT_NE(published.out.find("\"feed\": \"talmo\", \"file\": \"hu/talmo.xml\", \"state\": "
-                               "\"checked\", \"read_problem\": null, \"items\": 3, "
-                               "\"file_problem\": null, \"problems\": {}, \"warnings\": {}, "
+                               "\"checked\", \"read_problem\": null, \"items\": 8, "
+                               "\"file_problem\": null, \"problems\": {\"bad-address\": 2}, "
+                               "\"warnings\": {}, "
                                "\"verdict\": \"published\", \"verdict_reason\": \"\", \"changes\": "
                                "null, \"not_compared\": \"the published copy has a whole-file "
                                "problem\"}"),
