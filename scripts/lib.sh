@@ -6,6 +6,10 @@
 TALMO_PACKAGES=(cmake g++ clang-14 pkg-config libmariadb-dev mariadb-server mariadb-client
   libgtest-dev python3 clang-format libxml2-dev)
 
+# What building and checking the Debian package takes besides: dpkg-shlibdeps, lintian, the
+# manual-page renderer, systemd-analyze, visudo, logrotate and shellcheck for the shipped files.
+TALMO_PACKAGE_TOOLS=(dpkg-dev fakeroot lintian man-db groff-base systemd sudo logrotate shellcheck)
+
 say() { printf '\n== %s\n' "$*"; }
 
 as_root() {
