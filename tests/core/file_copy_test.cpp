@@ -12,19 +12,6 @@
 namespace talmo::testing {
 namespace {
 
-mode_t mode_of(const std::string& path) {
-  struct stat info {};
-  EXPECT_EQ(::stat(path.c_str(), &info), 0) << path;
-  return info.st_mode & 07777;
-}
-
-std::size_t entries_in(const std::string& dir) {
-  std::size_t count = 0;
-  for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(dir))
-    ++count;
-  return count;
-}
-
 TEST(FileReader, ReadsInChunksAndFromTheStartAgain) {
   TempDir dir;
   write_file(dir.path() + "/feed.xml", "0123456789");
