@@ -3,6 +3,7 @@
 #include <mysql.h>
 
 #include "core/errors.h"
+#include "core/snapshot.h"
 
 namespace talmo {
 
@@ -11,15 +12,27 @@ struct Connection::Handle {
   bool connected = false;
 };
 
+namespace {
+
+MYSQL* connected_handle(MYSQL* mysql, bool connected) {
+  if (mysql == nullptr || !connected)
+    throw DatabaseError("Database connect string (DatabaseName) not filled in!");
+  return mysql;
+}
+
+}  // namespace
+
 Connection::Connection() : handle_(std::make_unique<Handle>()) {}
 
 Connection::~Connection() {
+  snapshot_.reset();
   if (handle_->mysql != nullptr)
     mysql_close(handle_->mysql);
 }
 
 void Connection::open(const std::string& host, const std::string& user, const std::string& password,
                       const std::string& database) {
+  snapshot_.reset();
   if (handle_->mysql != nullptr) {
     mysql_close(handle_->mysql);
     handle_->mysql = nullptr;
@@ -35,82 +48,121 @@ void Connection::open(const std::string& host, const std::string& user, const st
     throw DatabaseError(mysql_error(handle_->mysql));
   }
   handle_->connected = true;
+  execute("SET SESSION TRANSACTION READ ONLY");
 }
 
 bool Connection::connected() const {
   return handle_->connected;
 }
 
-Query::Query(Connection& connection) : connection_(connection) {}
-
-void Query::close() {
-  active_ = false;
-  column_names_.clear();
-  rows_.clear();
-  position_ = 0;
-}
-
-void Query::set_sql(const std::string& text) {
-  close();
-  sql_lines_.clear();
-  std::string line;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const char c = text[i];
-    if (c == '\r' || c == '\n') {
-      sql_lines_.push_back(line);
-      line.clear();
-      if (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n')
-        ++i;
-    } else {
-      line += c;
-    }
-  }
-  if (!line.empty())
-    sql_lines_.push_back(line);
-}
-
-std::string Query::sql_text() const {
-  std::string text;
-  for (const std::string& line : sql_lines_)
-    text += line + "\n";
-  return text;
-}
-
-void Query::open() {
-  close();
-  MYSQL* mysql = connection_.handle_->mysql;
-  if (mysql == nullptr || !connection_.handle_->connected) {
-    throw DatabaseError("Database connect string (DatabaseName) not filled in!");
-  }
-  std::string statement;
-  for (const std::string& line : sql_lines_) {
-    if (!statement.empty())
-      statement += '\n';
-    statement += line;
-  }
-  if (mysql_real_query(mysql, statement.data(), statement.size()) != 0) {
+ResultSet Connection::select(const std::string& statement) {
+  MYSQL* mysql = connected_handle(handle_->mysql, handle_->connected);
+  ++statements_sent_;
+  if (mysql_real_query(mysql, statement.data(), statement.size()) != 0)
     throw DatabaseError(mysql_error(mysql));
-  }
-  MYSQL_RES* result = mysql_store_result(mysql);
+  // Rows are taken one by one as they arrive: a whole table read for the snapshot is not held
+  // twice.
+  MYSQL_RES* result = mysql_use_result(mysql);
   if (result == nullptr) {
     if (mysql_field_count(mysql) != 0)
       throw DatabaseError(mysql_error(mysql));
     throw DatabaseError("The statement returned no rows");
   }
+  ResultSet set;
   const unsigned int field_count = mysql_num_fields(result);
   MYSQL_FIELD* fields = mysql_fetch_fields(result);
   for (unsigned int f = 0; f < field_count; ++f)
-    column_names_.emplace_back(fields[f].name);
+    set.column_names.emplace_back(fields[f].name);
   while (MYSQL_ROW row = mysql_fetch_row(result)) {
     const unsigned long* lengths = mysql_fetch_lengths(result);
-    std::vector<std::optional<std::string>> cells(field_count);
+    ResultSet::Row& cells = set.rows.emplace_back(field_count);
     for (unsigned int f = 0; f < field_count; ++f) {
       if (row[f] != nullptr)
-        cells[f] = std::string(row[f], lengths[f]);
+        cells[f].emplace(row[f], lengths[f]);
     }
-    rows_.push_back(std::move(cells));
   }
+  const bool failed = mysql_errno(mysql) != 0;
+  const std::string message = failed ? mysql_error(mysql) : "";
   mysql_free_result(result);
+  if (failed)
+    throw DatabaseError(message);
+  return set;
+}
+
+void Connection::execute(const std::string& statement) {
+  MYSQL* mysql = connected_handle(handle_->mysql, handle_->connected);
+  ++statements_sent_;
+  if (mysql_real_query(mysql, statement.data(), statement.size()) != 0)
+    throw DatabaseError(mysql_error(mysql));
+  if (MYSQL_RES* result = mysql_store_result(mysql))
+    mysql_free_result(result);
+}
+
+Transaction::Transaction(Connection& connection) : connection_(connection) {}
+
+Transaction::~Transaction() {
+  connection_.snapshot_.reset();
+  if (active_ && connection_.handle_->connected) {
+    // Nothing to keep or undo in a read-only transaction; a failure here changes nothing.
+    static constexpr char kCommit[] = "COMMIT";
+    ++connection_.statements_sent_;
+    mysql_real_query(connection_.handle_->mysql, kCommit, sizeof kCommit - 1);
+  }
+}
+
+void Transaction::start() {
+  connection_.execute("START TRANSACTION READ ONLY, WITH CONSISTENT SNAPSHOT");
+  active_ = true;
+  connection_.snapshot_ = std::make_unique<Snapshot>(connection_);
+}
+
+void Transaction::commit() {
+  connection_.snapshot_.reset();
+  active_ = false;
+  connection_.execute("COMMIT");
+}
+
+Query::Query(Connection& connection) : connection_(connection) {}
+
+void Query::close() {
+  active_ = false;
+  result_.reset();
+  position_ = 0;
+}
+
+void Query::set_sql(const std::string& text) {
+  close();
+  has_lines_ = !text.empty();
+  if (text.find_first_of("\r\n") == std::string::npos) {
+    statement_ = text;
+    return;
+  }
+  // Every CR, LF or CRLF ends a line; a line end at the very end adds no empty line.
+  statement_.clear();
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char c = text[i];
+    if (c == '\r' || c == '\n') {
+      statement_ += '\n';
+      if (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n')
+        ++i;
+    } else {
+      statement_ += c;
+    }
+  }
+  if (statement_.back() == '\n')  // a line end closing the last line starts no new one
+    statement_.pop_back();
+}
+
+std::string Query::sql_text() const {
+  return has_lines_ ? statement_ + '\n' : std::string();
+}
+
+void Query::open() {
+  close();
+  if (Snapshot* snapshot = connection_.snapshot())
+    result_ = snapshot->answer(statement_);
+  else
+    result_ = std::make_shared<const ResultSet>(connection_.select(statement_));
   active_ = true;
   position_ = 0;
 }
@@ -120,29 +172,30 @@ void Query::first() {
 }
 
 void Query::last() {
-  position_ = rows_.empty() ? 0 : rows_.size() - 1;
+  const std::size_t count = result_ ? result_->rows.size() : 0;
+  position_ = count == 0 ? 0 : count - 1;
 }
 
 void Query::next() {
-  if (position_ < rows_.size())
+  if (!eof())
     ++position_;
 }
 
 bool Query::eof() const {
-  return position_ >= rows_.size();
+  return !result_ || position_ >= result_->rows.size();
 }
 
 std::int64_t Query::record_count() const {
-  return static_cast<std::int64_t>(rows_.size());
+  return result_ ? static_cast<std::int64_t>(result_->rows.size()) : 0;
 }
 
 const std::optional<std::string>* Query::current_cell(const std::string& name) const {
   if (!active_)
     throw DatabaseError("Operation cannot be performed on an inactive dataset");
-  for (std::size_t f = 0; f < column_names_.size(); ++f) {
-    if (equals_ci(column_names_[f], name)) {
-      return position_ < rows_.size() ? &rows_[position_][f] : nullptr;
-    }
+  const StringList& columns = result_->column_names;
+  for (std::size_t f = 0; f < columns.size(); ++f) {
+    if (equals_ci(columns[f], name))
+      return position_ < result_->rows.size() ? &result_->rows[position_][f] : nullptr;
   }
   throw DatabaseError("Field not found : \"" + name + "\"");
 }

@@ -3,6 +3,7 @@
 #include <limits.h>
 #include <unistd.h>
 #include <chrono>
+#include <cstdlib>
 
 namespace talmo {
 
@@ -18,6 +19,13 @@ std::string executable_directory() {
   if (directory.empty() || directory.back() != '/')
     directory += '/';
   return directory;
+}
+
+std::optional<std::string> environment_variable(const char* name) {
+  const char* value = std::getenv(name);
+  if (value == nullptr)
+    return std::nullopt;
+  return std::string(value);
 }
 
 std::int64_t clock_milliseconds() {
