@@ -2,6 +2,7 @@
 
 #include "core/console.h"
 #include "core/lookup.h"
+#include "core/statements.h"
 #include "feeds/arukereso.h"
 #include "feeds/grando.h"
 #include "feeds/heureka_sk.h"
@@ -16,7 +17,7 @@ using ListOperation = void (*)(Query& VAR_QUERY, StringList& list, const std::st
 
 // Every product id, newest first, with a counting line per id.
 void list_product_ids(Query& query, StringList& ids) {
-  query.set_sql("SELECT id FROM laptop_adatbazis ORDER BY id DESC;");
+  query.set_statement(statements::product_ids());
   try {
     query.open();
     query.last();

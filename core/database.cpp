@@ -130,39 +130,50 @@ void Query::close() {
   position_ = 0;
 }
 
-void Query::set_sql(const std::string& text) {
+void Query::set_statement(Statement statement) {
   close();
-  has_lines_ = !text.empty();
-  if (text.find_first_of("\r\n") == std::string::npos) {
-    statement_ = text;
+  statement_ = std::move(statement);
+  joined_lines_.clear();
+  const std::string& text = statement_.text();
+  if (text.find_first_of("\r\n") == std::string::npos)
     return;
-  }
-  // Every CR, LF or CRLF ends a line; a line end at the very end adds no empty line.
-  statement_.clear();
+  // Every CR, LF or CRLF ends a line; a line end at the very end starts no new line.
+  joined_lines_.reserve(text.size());
   for (std::size_t i = 0; i < text.size(); ++i) {
     const char c = text[i];
     if (c == '\r' || c == '\n') {
-      statement_ += '\n';
+      joined_lines_ += '\n';
       if (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n')
         ++i;
     } else {
-      statement_ += c;
+      joined_lines_ += c;
     }
   }
-  if (statement_.back() == '\n')  // a line end closing the last line starts no new one
-    statement_.pop_back();
+  if (joined_lines_.back() == '\n')
+    joined_lines_.pop_back();
+}
+
+const std::string& Query::lines() const {
+  return joined_lines_.empty() ? statement_.text() : joined_lines_;
 }
 
 std::string Query::sql_text() const {
-  return has_lines_ ? statement_ + '\n' : std::string();
+  return statement_.text().empty() ? std::string() : lines() + '\n';
 }
 
 void Query::open() {
   close();
+  // Empty lines in front are not sent.
+  const std::string& all_lines = lines();
+  const std::size_t first = all_lines.find_first_not_of('\n');
+  std::string without_leading;
+  if (first != 0 && first != std::string::npos)
+    without_leading = all_lines.substr(first);
+  const std::string& statement = first == 0 ? all_lines : without_leading;
   if (Snapshot* snapshot = connection_.snapshot())
-    result_ = snapshot->answer(statement_);
+    result_ = snapshot->answer(statement_, statement);
   else
-    result_ = std::make_shared<const ResultSet>(connection_.select(statement_));
+    result_ = std::make_shared<const ResultSet>(connection_.select(statement));
   active_ = true;
   position_ = 0;
 }

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "core/statements.h"
 #include "core/strings.h"
 
 namespace talmo {
@@ -93,7 +94,9 @@ class Query {
   void close();
   // Closes the cursor and replaces its statement. The text is kept as lines, so a CR, LF or CRLF
   // inside it (also one inside a spliced value) ends a line, and sql_text() ends each with "\n".
-  void set_sql(const std::string& text);
+  void set_statement(Statement statement);
+  // The statement last set; a new cursor holds an empty unlisted one.
+  const Statement& statement() const { return statement_; }
   std::string sql_text() const;
 
   // Runs the statement, or takes its answer from the connection's snapshot; it must return
@@ -114,12 +117,14 @@ class Query {
 
  private:
   const std::optional<std::string>* current_cell(const std::string& name) const;
+  // The statement's lines joined by "\n".
+  const std::string& lines() const;
 
   Connection& connection_;
-  // The statement as sent: its lines joined by "\n". `has_lines_` tells an empty text (no line)
-  // from one made of a single line end (one empty line).
-  std::string statement_;
-  bool has_lines_ = false;
+  Statement statement_{StatementKind::unlisted, {}, ""};
+  // The statement's lines joined by "\n", when its text holds a CR or LF; otherwise the lines are
+  // the text itself. Sent without leading empty lines.
+  std::string joined_lines_;
   bool active_ = false;
   std::shared_ptr<const ResultSet> result_;
   std::size_t position_ = 0;

@@ -1,5 +1,7 @@
 #include "core/lookup.h"
 
+#include <utility>
+
 namespace talmo {
 
 std::string query_error_line(const Query& query, QueryErrorLine style, const std::string& message) {
@@ -16,9 +18,9 @@ std::string query_error_line(const Query& query, QueryErrorLine style, const std
   return "";
 }
 
-bool open_lookup(Query& query, const std::string& sql) {
+bool open_lookup(Query& query, Statement statement) {
   query.close();
-  query.set_sql(sql);
+  query.set_statement(std::move(statement));
   query.open();
   query.last();
   if (query.record_count() <= 0)
@@ -27,14 +29,10 @@ bool open_lookup(Query& query, const std::string& sql) {
   return true;
 }
 
-std::string product_columns_sql(const std::string& columns, const std::string& IDX) {
-  return "SELECT " + columns + " FROM laptop_adatbazis WHERE id='" + IDX + "';";
-}
-
-std::string lookup_text(Query& query, const std::string& sql, const std::string& field) {
+std::string lookup_text(Query& query, Statement statement, const std::string& field) {
   std::string result;
   guard_lookup(query, [&] {
-    if (open_lookup(query, sql))
+    if (open_lookup(query, std::move(statement)))
       result = query.field_text(field);
   });
   return result;

@@ -5,6 +5,7 @@
 #include "core/console.h"
 #include "core/database.h"
 #include "core/errors.h"
+#include "core/statements.h"
 
 namespace talmo {
 
@@ -36,16 +37,12 @@ bool guard_lookup(Query& query, Body&& body, QueryErrorLine style = QueryErrorLi
   }
 }
 
-// Closes the cursor, sets `sql`, opens it and counts the rows; with at least one row the cursor
-// is left on the first row and the result is true. Failures raise; call it inside a guard.
-bool open_lookup(Query& query, const std::string& sql);
+// Closes the cursor, sets `statement`, opens it and counts the rows; with at least one row the
+// cursor is left on the first row and the result is true. Failures raise; call it inside a guard.
+bool open_lookup(Query& query, Statement statement);
 
-// "SELECT " + columns + " FROM laptop_adatbazis WHERE id='" + IDX + "';": the product-table
-// statement most lookups run.
-std::string product_columns_sql(const std::string& columns, const std::string& IDX);
-
-// The named column of the first row of `sql`: "" without a row, and "" after printing the plain
-// error line when the lookup fails.
-std::string lookup_text(Query& query, const std::string& sql, const std::string& field);
+// The named column of the first row of `statement`: "" without a row, and "" after printing the
+// plain error line when the lookup fails.
+std::string lookup_text(Query& query, Statement statement, const std::string& field);
 
 }  // namespace talmo

@@ -105,7 +105,7 @@ std::string item_or_empty(const StringList& list, std::size_t index) {
   return index < list.size() ? list[index] : std::string();
 }
 
-std::int32_t to_integer(std::string_view text) {
+std::optional<std::int32_t> parse_integer(std::string_view text) {
   std::size_t i = 0;
   if (i < text.size() && (text[i] == '+' || text[i] == '-'))
     ++i;
@@ -127,10 +127,10 @@ std::int32_t to_integer(std::string_view text) {
       return static_cast<std::int32_t>(value);
     }
   }
-  throw ConversionError("\"" + std::string(text) + "\" is an invalid integer");
+  return std::nullopt;
 }
 
-double to_number(std::string_view text) {
+std::optional<double> parse_number(std::string_view text) {
   std::size_t i = 0;
   auto skip_digits = [&] {
     const std::size_t start = i;
@@ -158,6 +158,18 @@ double to_number(std::string_view text) {
     if (errno != ERANGE)
       return value;
   }
+  return std::nullopt;
+}
+
+std::int32_t to_integer(std::string_view text) {
+  if (const std::optional<std::int32_t> value = parse_integer(text))
+    return *value;
+  throw ConversionError("\"" + std::string(text) + "\" is an invalid integer");
+}
+
+double to_number(std::string_view text) {
+  if (const std::optional<double> value = parse_number(text))
+    return *value;
   throw ConversionError("\"" + std::string(text) + "\" is an invalid float");
 }
 

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,10 +34,15 @@ const std::string& item_at(const StringList& list, std::size_t index);
 std::string item_or_empty(const StringList& list, std::size_t index);
 
 // A whole text read as a 32-bit integer: optional sign and decimal digits only, nothing else.
-// Anything else (blanks, empty text, out of range) raises ConversionError.
-std::int32_t to_integer(std::string_view text);
+// Anything else (blanks, empty text, out of range) gives no value.
+std::optional<std::int32_t> parse_integer(std::string_view text);
 // A whole text read as a number: optional sign, digits, optionally "." and at least one digit,
-// optionally an exponent. "12." and ".5" raise ConversionError, as does anything else.
+// optionally an exponent. "12." and ".5" give no value, as does anything else.
+std::optional<double> parse_number(std::string_view text);
+
+// parse_integer and parse_number for texts that must be numbers: no value raises
+// ConversionError, which a lookup guard reports as the lookup's failure.
+std::int32_t to_integer(std::string_view text);
 double to_number(std::string_view text);
 
 }  // namespace talmo

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/lookup.h"
+#include "core/statements.h"
 #include "core/strings.h"
 #include "core/text_utils.h"
 #include "description/article_links.h"
@@ -154,7 +155,7 @@ std::string run_section(Query& query, const std::string& IDX, const std::string&
   SectionParts parts;
   guard_lookup(query, [&] {
     std::string stored;
-    const bool found = open_lookup(query, product_columns_sql(section.column, IDX));
+    const bool found = open_lookup(query, statements::product_columns({section.column}, IDX));
     if (found)
       stored = query.field_text(section.column);
     fill(found, stored, parts);

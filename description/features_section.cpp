@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "core/lookup.h"
+#include "core/statements.h"
 #include "core/strings.h"
 #include "core/text_utils.h"
 #include "description/html_helpers.h"
@@ -41,6 +42,17 @@ const Feature kFeatures[] = {
     {"3g", BUILD, "3G", "images/leiras/3g.png", "3g", "", ""},
     {"ujjlenyomat_olvaso", BUILD, "Ujjlenyomat olvasó", "", "", "", ""},
 };
+
+// The columns of the features row: every feature's in table order, then the free texts and the
+// battery.
+StringList feature_row_columns() {
+  StringList columns;
+  for (const Feature& feature : kFeatures)
+    columns.emplace_back(feature.column);
+  for (const char* column : {"kulonlegessegek", "kiegeszitok", "akkumulator"})
+    columns.emplace_back(column);
+  return columns;
+}
 
 // S with every "van" removed, in any letter case: a feature present without a description reads
 // "Van", which the yes-image already says.
@@ -130,10 +142,7 @@ void add_battery_line(const Query& row, LineTexts& texts, std::string& ROWS) {
 std::string extra_texts(Query& VAR_QUERY, const std::string& IDX, const std::string& SITE) {
   std::string EXTRAS;
   guard_lookup(VAR_QUERY, [&] {
-    if (!open_lookup(VAR_QUERY,
-                     "SELECT ex_text FROM extra_jellemzo WHERE ex_product_type_id='0' AND "
-                     "ex_product_id='" +
-                         IDX + "' " + "AND ex_site='" + SITE + "';"))
+    if (!open_lookup(VAR_QUERY, statements::extra_texts(IDX, SITE)))
       return;
     for (bool first = true; !VAR_QUERY.eof(); VAR_QUERY.next(), first = false) {
       const std::string text = VAR_QUERY.field_text("ex_text");
@@ -152,11 +161,7 @@ std::string GENERATELEIRAS_EGYEBJELLEMZOK(Query& VAR_QUERY, const std::string& I
   std::string ROWS;
   // A failure ends the list; the lines before it stay.
   guard_lookup(VAR_QUERY, [&] {
-    if (!open_lookup(VAR_QUERY,
-                     "SELECT wifi, usb, kartyaolvaso, hdmi, vga, webkamera, esata, express_card, "
-                     "bluetooth, lan, tv, 3g, ujjlenyomat_olvaso, kulonlegessegek, kiegeszitok, "
-                     "akkumulator FROM laptop_adatbazis WHERE id='" +
-                         IDX + "';"))
+    if (!open_lookup(VAR_QUERY, statements::product_columns(feature_row_columns(), IDX)))
       return;
     add_feature_lines(VAR_QUERY, texts, ICONS, ROWS);
     add_free_text_lines(VAR_QUERY, texts, ROWS);

@@ -44,12 +44,12 @@ std::string GENERATE_ARUKERESO_DESCRIPTION(Query& VAR_QUERY, const std::string& 
   if (const Snapshot::BuiltText* built = snapshot->recall(key)) {
     if (!built->console.empty())
       write_text(built->console);
-    VAR_QUERY.set_sql(built->last_statement);
+    VAR_QUERY.set_statement(built->last_statement);
     return built->text;
   }
   ConsoleRecording recording;
   std::string text = marketplace_description(GENERATE_PRODUCT_DESC(VAR_QUERY, IDX, SITE), SITE);
-  snapshot->remember(key, {text, recording.output(), VAR_QUERY.sql_text()});
+  snapshot->remember(key, {text, recording.output(), VAR_QUERY.statement()});
   return text;
 }
 

@@ -1,6 +1,7 @@
 #include "description/short_description.h"
 
 #include "core/lookup.h"
+#include "core/statements.h"
 #include "core/strings.h"
 #include "description/spec_builders.h"
 #include "product/translation.h"
@@ -22,10 +23,10 @@ std::string GENERATE_PRODUCT_S_DESC(Query& VAR_QUERY, const std::string& IDX,
   std::string result;
   guard_lookup(VAR_QUERY, [&] {
     if (!open_lookup(VAR_QUERY,
-                     "SELECT processzor, kijelzo, memoria, merevlemez, grafikus_kartya, "
-                     "optikai_meghajto, kiegeszitok, operacios_rendszer FROM laptop_adatbazis "
-                     "WHERE id='" +
-                         IDX + "';"))
+                     statements::product_columns(
+                         {"processzor", "kijelzo", "memoria", "merevlemez", "grafikus_kartya",
+                          "optikai_meghajto", "kiegeszitok", "operacios_rendszer"},
+                         IDX)))
       return;
     const std::string processzor = VAR_QUERY.field_text("processzor");
     const std::string kijelzo = VAR_QUERY.field_text("kijelzo");

@@ -1,6 +1,7 @@
 #include "description/simple_sections.h"
 
 #include "core/lookup.h"
+#include "core/statements.h"
 #include "core/strings.h"
 #include "core/text_utils.h"
 #include "description/article_links.h"
@@ -42,7 +43,7 @@ const OsArticle kOsArticles[] = {
 
 // The product's stored `column`; "" when the product has no row. Raises: call it in a guard.
 std::string read_product_column(Query& query, const std::string& column, const std::string& IDX) {
-  if (!open_lookup(query, product_columns_sql(column, IDX)))
+  if (!open_lookup(query, statements::product_columns({column}, IDX)))
     return "";
   return query.field_text(column);
 }

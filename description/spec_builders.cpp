@@ -1,6 +1,8 @@
 #include "description/spec_builders.h"
 
-#include "core/errors.h"
+#include <cstdint>
+#include <optional>
+
 #include "core/strings.h"
 #include "core/text_utils.h"
 
@@ -157,13 +159,9 @@ std::string BUILD_PROCESSZOR(const std::string& INPUT) {
     return result;
   result += "(";
   if (!clock.empty()) {
-    std::string multiplier;
-    try {
-      if (!cores.empty() && to_integer(cores) >= 2)
-        multiplier = cores + " x ";
-    } catch (const ConversionError&) {
-      // A core count that is not a number only loses the multiplier; the clock still shows.
-    }
+    // A core count that is not a number only loses the multiplier; the clock still shows.
+    const std::optional<std::int32_t> core_count = parse_integer(cores);
+    const std::string multiplier = core_count && *core_count >= 2 ? cores + " x " : "";
     result += multiplier + clock;
   }
   append_if_set(result, " / ", turbo, " Turbo");

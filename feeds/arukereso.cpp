@@ -2,6 +2,7 @@
 
 #include "core/file_output.h"
 #include "core/lookup.h"
+#include "core/statements.h"
 #include "core/strings.h"
 #include "core/system.h"
 #include "core/text_utils.h"
@@ -44,8 +45,7 @@ std::string csv_line(const StringList& fields) {
 
 std::string GENERATE_ARUKERESO_MANUFACTURER(Query& VAR_QUERY, const std::string& IDX,
                                             const std::string&) {
-  return trim(lookup_text(VAR_QUERY, "SELECT gyarto FROM laptop_adatbazis WHERE id='" + IDX + "';",
-                          "gyarto"));
+  return trim(lookup_text(VAR_QUERY, statements::product_columns({"gyarto"}, IDX), "gyarto"));
 }
 
 std::string GENERATE_ARUKERESO_CATEGORY(Query&, const std::string&, const std::string&) {
@@ -67,8 +67,7 @@ std::string GENERATE_ARUKERESO_DELIVERY_COST(Query&, const std::string&, const s
 
 std::string GENERATE_ARUKERESO_PRODUCT_NUMBER(Query& VAR_QUERY, const std::string& IDX,
                                               const std::string&) {
-  return lookup_text(VAR_QUERY,
-                     "SELECT product_number FROM laptop_adatbazis WHERE id='" + IDX + "';",
+  return lookup_text(VAR_QUERY, statements::product_columns({"product_number"}, IDX),
                      "product_number");
 }
 

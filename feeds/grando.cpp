@@ -1,9 +1,11 @@
 #include "feeds/grando.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 
-#include "core/errors.h"
 #include "core/lookup.h"
+#include "core/statements.h"
 #include "core/strings.h"
 #include "core/system.h"
 #include "description/long_description.h"
@@ -45,10 +47,7 @@ bool in_ultrabook_category(Query& VAR_QUERY, const std::string& IDX) {
   if (ULTRA_ID == "-1")
     return ULTRA;
   guard_lookup(VAR_QUERY, [&] {
-    ULTRA = open_lookup(VAR_QUERY,
-                        "SELECT prod_cat_id FROM product_categories WHERE prod_cat_type_id='0' "
-                        "AND prod_cat_product_id='" +
-                            IDX + "' " + "AND prod_cat_category_id='" + ULTRA_ID + "';");
+    ULTRA = open_lookup(VAR_QUERY, statements::product_in_category(IDX, ULTRA_ID));
   });
   return ULTRA;
 }
@@ -56,11 +55,10 @@ bool in_ultrabook_category(Query& VAR_QUERY, const std::string& IDX) {
 // Grando shows the higher of the two prices as the list price; a price that is not a whole
 // number leaves both as they are.
 void apply_price_rule(std::string& price, const std::string& discount_price) {
-  try {
-    if (to_integer(discount_price) > to_integer(price))
-      price = discount_price;
-  } catch (const ConversionError&) {
-  }
+  const std::optional<std::int32_t> discount = parse_integer(discount_price);
+  const std::optional<std::int32_t> list = parse_integer(price);
+  if (discount && list && *discount > *list)
+    price = discount_price;
 }
 
 std::optional<std::string> grando_element(const std::string& name, const std::string& value) {
@@ -84,8 +82,7 @@ std::string GENERATE_GRANDO_NAME(Query& VAR_QUERY, const std::string& IDX,
   std::string GY;
   std::string N;
   guard_lookup(VAR_QUERY, [&] {
-    if (open_lookup(VAR_QUERY,
-                    "SELECT gyarto, nev FROM laptop_adatbazis WHERE id='" + IDX + "';")) {
+    if (open_lookup(VAR_QUERY, statements::product_columns({"gyarto", "nev"}, IDX))) {
       GY = VAR_QUERY.field_text("gyarto");
       N = VAR_QUERY.field_text("nev");
     }
@@ -96,21 +93,17 @@ std::string GENERATE_GRANDO_NAME(Query& VAR_QUERY, const std::string& IDX,
 std::string GENERATE_GRANDO_PRODUCT_ID(Query& VAR_QUERY, const std::string& IDX,
                                        const std::string& SITE) {
   if (ISONLYFORGRANDO(VAR_QUERY, IDX)) {
-    return lookup_text(VAR_QUERY, "SELECT sorszam FROM laptop_adatbazis WHERE id='" + IDX + "';",
-                       "sorszam");
+    return lookup_text(VAR_QUERY, statements::product_columns({"sorszam"}, IDX), "sorszam");
   }
   return GENERATE_PRODUCT_SKU(VAR_QUERY, IDX, SITE) + " " + "LAPTOP, NOTEBOOK";
 }
 
 std::string GENERATE_GRANDO_ADDPERCENT(std::int32_t PERCENT, const std::string& OSSZEG) {
-  std::int32_t value = 0;
-  try {
-    value = to_integer(OSSZEG);
-  } catch (const ConversionError&) {
+  const std::optional<std::int32_t> amount = parse_integer(OSSZEG);
+  if (!amount)
     return OSSZEG;
-  }
   // Any 32-bit amount raised by any 32-bit percent fits a 64-bit integer.
-  const auto raised = static_cast<std::int64_t>(round_half_even((PERCENT / 100.0 + 1.0) * value));
+  const auto raised = static_cast<std::int64_t>(round_half_even((PERCENT / 100.0 + 1.0) * *amount));
   std::string result = std::to_string(raised);
   const std::size_t figures = result.size() - (raised < 0 ? 1 : 0);
   if (figures >= 2)
@@ -135,8 +128,7 @@ std::string GENERATE_GRANDO_DESCRIPTION(Query& VAR_QUERY, const std::string& IDX
 
 std::string GENERATE_GRANDO_WARRANTYF(Query& VAR_QUERY, const std::string& IDX,
                                       const std::string&) {
-  return trim(lookup_text(
-      VAR_QUERY, "SELECT garancia FROM laptop_adatbazis WHERE id='" + IDX + "';", "garancia"));
+  return trim(lookup_text(VAR_QUERY, statements::product_columns({"garancia"}, IDX), "garancia"));
 }
 
 std::string GENERATE_GRANDO_MANUFACTURER(Query& VAR_QUERY, const std::string& IDX,
@@ -148,7 +140,7 @@ std::string GENERATE_GRANDO_CATEGORY(Query& VAR_QUERY, const std::string& IDX, c
   bool found = false;
   std::string manufacturer;
   guard_lookup(VAR_QUERY, [&] {
-    if (open_lookup(VAR_QUERY, "SELECT gyarto FROM laptop_adatbazis WHERE id='" + IDX + "';")) {
+    if (open_lookup(VAR_QUERY, statements::product_columns({"gyarto"}, IDX))) {
       manufacturer = trim(VAR_QUERY.field_text("gyarto"));
       found = true;
     }

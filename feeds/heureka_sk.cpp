@@ -4,6 +4,7 @@
 
 #include "core/console.h"
 #include "core/lookup.h"
+#include "core/statements.h"
 #include "core/system.h"
 #include "description/short_description.h"
 #include "feeds/arukereso.h"
@@ -78,9 +79,8 @@ std::string GENERATE_HEUREKASK_PRODUCT(Query& VAR_QUERY, const std::string& IDX,
   std::string result;
   guard_lookup(VAR_QUERY, [&] {
     if (!open_lookup(VAR_QUERY,
-                     "SELECT gyarto, tipusmegnevezes, extra_mezo, kiegeszitok FROM "
-                     "laptop_adatbazis WHERE id='" +
-                         IDX + "';"))
+                     statements::product_columns(
+                         {"gyarto", "tipusmegnevezes", "extra_mezo", "kiegeszitok"}, IDX)))
       return;
     // Everything is read before the name generator and the translations reuse the cursor.
     const std::string GY = VAR_QUERY.field_text("gyarto");

@@ -1,6 +1,7 @@
 #include "feeds/heureka_sk_params.h"
 
 #include "core/lookup.h"
+#include "core/statements.h"
 #include "description/spec_builders.h"
 #include "product/translation.h"
 
@@ -66,7 +67,7 @@ std::string GENERATE_HEUREKASK_PARAM(Query& VAR_QUERY, const std::string& IDX,
     guard_lookup(
         VAR_QUERY,
         [&] {
-          if (!open_lookup(VAR_QUERY, product_columns_sql(column, IDX)))
+          if (!open_lookup(VAR_QUERY, statements::product_columns({column}, IDX)))
             return;
           // Read before formatting: the warranty's translation reuses the cursor.
           const std::string value = VAR_QUERY.field_text(column);

@@ -2,6 +2,7 @@
 
 #include "core/console.h"
 #include "core/lookup.h"
+#include "core/statements.h"
 #include "core/system.h"
 #include "description/short_description.h"
 #include "feeds/feed_loop.h"
@@ -45,8 +46,7 @@ std::string GENERATE_TALMO_CIKKSZAM(Query& VAR_QUERY, const std::string& IDX,
   (void)SITE;
   std::string result;
   guard_lookup(VAR_QUERY, [&] {
-    if (open_lookup(VAR_QUERY, "SELECT gyarto, tipusmegnevezes FROM laptop_adatbazis WHERE id='" +
-                                   IDX + "';")) {
+    if (open_lookup(VAR_QUERY, statements::product_columns({"gyarto", "tipusmegnevezes"}, IDX))) {
       result = trim(VAR_QUERY.field_text("gyarto")) + " " +
                trim(VAR_QUERY.field_text("tipusmegnevezes"));
     }

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "core/lookup.h"
+#include "core/statements.h"
 #include "core/strings.h"
 
 namespace talmo {
@@ -20,18 +21,12 @@ std::string canonical_kind(const std::string& name) {
   return kind;
 }
 
-std::string level_zero_categories_sql(const std::string& IDX) {
-  return "SELECT * FROM product_categories a LEFT JOIN categories b ON "
-         "a.prod_cat_category_id=b.cat_id WHERE a.prod_cat_product_id='" +
-         IDX + "' " + "AND b.cat_category_level='0' " + "ORDER BY b.cat_id DESC;";
-}
-
 }  // namespace
 
 std::string GETMAINCATEGORY(Query& VAR_QUERY, const std::string& IDX) {
   std::string result;
   guard_lookup(VAR_QUERY, [&] {
-    if (!open_lookup(VAR_QUERY, level_zero_categories_sql(IDX)))
+    if (!open_lookup(VAR_QUERY, statements::level_zero_categories(IDX)))
       return;
     // Rows come by descending cat_id and every hit overwrites: the lowest cat_id wins.
     for (; !VAR_QUERY.eof(); VAR_QUERY.next()) {
@@ -47,7 +42,8 @@ std::string GETSECONDMAINCATEGORY(Query& VAR_QUERY, const std::string& IDX) {
   const std::string MAIN_CATEGORY = GETMAINCATEGORY(VAR_QUERY, IDX);
   std::string result;
   guard_lookup(VAR_QUERY, [&] {
-    if (!open_lookup(VAR_QUERY, level_zero_categories_sql(IDX)) || VAR_QUERY.record_count() < 2)
+    if (!open_lookup(VAR_QUERY, statements::level_zero_categories(IDX)) ||
+        VAR_QUERY.record_count() < 2)
       return;
     for (; !VAR_QUERY.eof(); VAR_QUERY.next()) {
       const std::string SECOND_CATEGORY = canonical_kind(VAR_QUERY.field_text("cat_category_name"));
@@ -60,24 +56,18 @@ std::string GETSECONDMAINCATEGORY(Query& VAR_QUERY, const std::string& IDX) {
 
 std::string GETTHIRDCATEGORY(Query& VAR_QUERY, const std::string& IDX) {
   const std::string MAIN_CATEGORY = GETMAINCATEGORY(VAR_QUERY, IDX);
-  const std::string GY = trim(lookup_text(
-      VAR_QUERY, "SELECT gyarto FROM laptop_adatbazis WHERE id='" + IDX + "';", "gyarto"));
+  const std::string GY =
+      trim(lookup_text(VAR_QUERY, statements::product_columns({"gyarto"}, IDX), "gyarto"));
   std::string result;
   if (GY.empty())
     return result;
   guard_lookup(
       VAR_QUERY,
       [&] {
-        if (!open_lookup(VAR_QUERY,
-                         "SELECT cat_id FROM categories WHERE cat_category_level='1' AND "
-                         "cat_category_name='" +
-                             GY + " " + MAIN_CATEGORY + "';"))
+        if (!open_lookup(VAR_QUERY, statements::series_parent(GY, MAIN_CATEGORY)))
           return;
         const std::string parent_id = VAR_QUERY.field_text("cat_id");
-        if (open_lookup(VAR_QUERY,
-                        "SELECT cat_category_name FROM categories WHERE cat_category_level='2' "
-                        "AND cat_category_parent_id='" +
-                            parent_id + "';"))
+        if (open_lookup(VAR_QUERY, statements::series_names(parent_id)))
           result = trim(VAR_QUERY.field_text("cat_category_name"));
       },
       QueryErrorLine::with_error_message);
@@ -88,9 +78,7 @@ std::string GETCATEGORYIDFROMNAMEANDLEVEL(Query& VAR_QUERY, const std::string& N
                                           const std::string& LEVEL) {
   std::string result = "-1";
   guard_lookup(VAR_QUERY, [&] {
-    if (open_lookup(VAR_QUERY, "SELECT cat_id FROM categories WHERE cat_category_name='" + NAME +
-                                   "' " + "AND cat_category_level='" + LEVEL + "' " +
-                                   "ORDER BY cat_id DESC LIMIT 1;"))
+    if (open_lookup(VAR_QUERY, statements::category_id(NAME, LEVEL)))
       result = VAR_QUERY.field_text("cat_id");
   });
   return result;

@@ -1,6 +1,7 @@
 #include "product/pricing.h"
 
 #include "core/lookup.h"
+#include "core/statements.h"
 #include "core/strings.h"
 #include "core/text_utils.h"
 #include "product/price_rounding.h"
@@ -84,10 +85,7 @@ std::string site_amount(const std::string& stored, const std::string& SITE) {
 std::string product_currency(Query& VAR_QUERY, const std::string& IDX) {
   std::string VALUTA = "EUR";
   guard_lookup(VAR_QUERY, [&] {
-    if (open_lookup(VAR_QUERY,
-                    "SELECT prod_val_valuta FROM product_valuta WHERE "
-                    "prod_val_product_type_id='0' AND prod_val_product_id='" +
-                        IDX + "' " + "ORDER BY prod_val_id DESC LIMIT 1;")) {
+    if (open_lookup(VAR_QUERY, statements::product_currency(IDX))) {
       VALUTA = VAR_QUERY.field_text("prod_val_valuta");
     }
   });
@@ -97,9 +95,8 @@ std::string product_currency(Query& VAR_QUERY, const std::string& IDX) {
 double exchange_rate(Query& VAR_QUERY, const std::string& VALUTA, const std::string& SITE) {
   double ARFOLYAM = 1.0;
   guard_lookup(VAR_QUERY, [&] {
-    if (open_lookup(VAR_QUERY, "SELECT er_value FROM exchange_rates WHERE er_from='" + VALUTA +
-                                   "' " + "AND er_to='" + GETVALUTAFROMCOUNTRY(upper_ascii(SITE)) +
-                                   "' " + "ORDER BY er_id DESC LIMIT 1;")) {
+    if (open_lookup(VAR_QUERY,
+                    statements::exchange_rate(VALUTA, GETVALUTAFROMCOUNTRY(upper_ascii(SITE))))) {
       ARFOLYAM = stored_number(VAR_QUERY.field_text("er_value"));
     }
   });
@@ -110,9 +107,7 @@ double profit_margin(Query& VAR_QUERY, const std::string& IDX, const std::string
   double PROFIT_MARGIN = 1.0;
   const std::string country = GETCOUNTRYFROMWAREHOUSE(VAR_QUERY, IDX, "");
   guard_lookup(VAR_QUERY, [&] {
-    if (open_lookup(VAR_QUERY, "SELECT profit_value FROM profit_margins WHERE profit_from='" +
-                                   country + "' " + "AND profit_to='" + upper_ascii(SITE) + "' " +
-                                   "ORDER BY profit_id DESC LIMIT 1;")) {
+    if (open_lookup(VAR_QUERY, statements::profit_margin(country, upper_ascii(SITE)))) {
       PROFIT_MARGIN = 1 + stored_number(VAR_QUERY.field_text("profit_value")) / 100;
     }
   });
@@ -123,10 +118,7 @@ ProductAmounts product_amounts(Query& VAR_QUERY, const std::string& IDX, const s
                                bool USE_OLD_PRICE) {
   ProductAmounts amounts;
   guard_lookup(VAR_QUERY, [&] {
-    if (!open_lookup(VAR_QUERY,
-                     "SELECT netto_darabar, uj_netto_darabar, kedvezmenyek, tobbletnyeresegek "
-                     "FROM laptop_adatbazis WHERE id='" +
-                         IDX + "' " + "ORDER BY id DESC LIMIT 1;")) {
+    if (!open_lookup(VAR_QUERY, statements::price_amounts(IDX))) {
       return;
     }
     const std::string net =
@@ -163,10 +155,7 @@ std::string GENERATE_PRICE_WITH_TAX(Query& VAR_QUERY, const std::string& IDX,
   bool NINCS_FIX = true;
   const std::string fix_column = "fix_ar_" + SITE;
   guard_lookup(VAR_QUERY, [&] {
-    if (!open_lookup(VAR_QUERY, "SELECT " + fix_column + " " + "FROM fix_arak " +
-                                    "WHERE fix_product_id='" + IDX + "' " +
-                                    "AND fix_product_type_id='0' " +
-                                    "ORDER BY fix_id DESC LIMIT 1;")) {
+    if (!open_lookup(VAR_QUERY, statements::fixed_price(SITE, IDX))) {
       return;
     }
     const std::string fixed = VAR_QUERY.field_text(fix_column);
@@ -185,10 +174,7 @@ std::string GENERATE_PRICE_WITH_TAX(Query& VAR_QUERY, const std::string& IDX,
 
 std::string GENERATE_PRODUCT_TAX(Query& VAR_QUERY, [[maybe_unused]] const std::string& IDX,
                                  const std::string& SITE) {
-  return lookup_text(VAR_QUERY,
-                     "SELECT tax_value FROM taxes WHERE tax_country='" + SITE + "' " +
-                         "ORDER BY tax_id DESC LIMIT 1;",
-                     "tax_value");
+  return lookup_text(VAR_QUERY, statements::tax(SITE), "tax_value");
 }
 
 std::string GETVALUTAFROMCOUNTRY(const std::string& COUNTRY) {
@@ -202,10 +188,9 @@ std::string GETVALUTAFROMCOUNTRY(const std::string& COUNTRY) {
 std::string GETCOUNTRYFROMWAREHOUSE(Query& VAR_QUERY, const std::string& IDX,
                                     const std::string& INPUT) {
   const std::string RAKTAR =
-      INPUT.empty() ? lookup_text(VAR_QUERY,
-                                  "SELECT nagyraktar FROM laptop_adatbazis WHERE id='" + IDX + "';",
-                                  "nagyraktar")
-                    : INPUT;
+      INPUT.empty()
+          ? lookup_text(VAR_QUERY, statements::product_columns({"nagyraktar"}, IDX), "nagyraktar")
+          : INPUT;
   std::string result = "SK";
   for (const KeyValue& entry : kWarehouseCountries) {
     if (contains_ci(RAKTAR, entry.key))

@@ -1,6 +1,7 @@
 #include "product/product_links.h"
 
 #include "core/lookup.h"
+#include "core/statements.h"
 #include "core/strings.h"
 #include "core/text_utils.h"
 #include "product/categories.h"
@@ -30,7 +31,7 @@ constexpr ProductUrlFeed kHeurekaSkUrl{HEUREKASK_BACKTRACE, VIRTUEMART_SEO_END_S
 
 // Whether product IDX is a clearance item; false without a row. Raises on a failed query.
 bool is_clearance_item(Query& VAR_QUERY, const std::string& IDX) {
-  return open_lookup(VAR_QUERY, product_columns_sql("sorszam", IDX)) &&
+  return open_lookup(VAR_QUERY, statements::product_columns({"sorszam"}, IDX)) &&
          contains_ci(VAR_QUERY.field_text("sorszam"), "akc");
 }
 
@@ -68,7 +69,7 @@ std::string GENERATE_PRODUCT_SKU(Query& VAR_QUERY, const std::string& IDX,
                                  const std::string& /*SITE*/) {
   std::string result;
   guard_lookup(VAR_QUERY, [&] {
-    if (open_lookup(VAR_QUERY, product_columns_sql("sorszam, gyarto", IDX)))
+    if (open_lookup(VAR_QUERY, statements::product_columns({"sorszam", "gyarto"}, IDX)))
       result = VAR_QUERY.field_text("sorszam") + "/" + VAR_QUERY.field_text("gyarto");
   });
   return result;
@@ -77,7 +78,8 @@ std::string GENERATE_PRODUCT_SKU(Query& VAR_QUERY, const std::string& IDX,
 std::string GENERATE_SLUG(Query& VAR_QUERY, const std::string& IDX, const std::string& SITE) {
   std::string result;
   guard_lookup(VAR_QUERY, [&] {
-    if (!open_lookup(VAR_QUERY, product_columns_sql("sorszam, gyarto, nev, tipusmegnevezes", IDX)))
+    if (!open_lookup(VAR_QUERY, statements::product_columns(
+                                    {"sorszam", "gyarto", "nev", "tipusmegnevezes"}, IDX)))
       return;
     const std::string sorszam = VAR_QUERY.field_text("sorszam");
     if (contains_ci(sorszam, "akc")) {
@@ -114,7 +116,7 @@ std::string GENERATE_PIC_FILE_URL(const std::string& NR, Query& VAR_QUERY, const
                                   const std::string& SITE) {
   std::string result;
   guard_lookup(VAR_QUERY, [&] {
-    if (open_lookup(VAR_QUERY, product_columns_sql("gyarto, tipus", IDX))) {
+    if (open_lookup(VAR_QUERY, statements::product_columns({"gyarto", "tipus"}, IDX))) {
       result = upper_ascii(VAR_QUERY.field_text("gyarto")) + "-" +
                upper_ascii(VAR_QUERY.field_text("tipus")) + "-" + "0" + NR + "-" +
                GETSITENAME(SITE) + ".jpg";

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "core/lookup.h"
+#include "core/statements.h"
 #include "core/strings.h"
 #include "core/text_utils.h"
 
@@ -135,9 +136,7 @@ std::string TERMEKNEV_GENERATOR(Query& VAR_QUERY, const std::string& IDX,
   for (const NameSection& section : kNameSections) {
     std::string text;
     guard_lookup(VAR_QUERY, [&] {
-      const std::string sql = std::string("SELECT ") + section.column +
-                              " FROM laptop_adatbazis WHERE id='" + IDX + "';";
-      if (open_lookup(VAR_QUERY, sql))
+      if (open_lookup(VAR_QUERY, statements::product_columns({section.column}, IDX)))
         text = section.part(VAR_QUERY.field_text(section.column));
     });
     if (!text.empty())
@@ -153,9 +152,7 @@ std::string GENERATE_ARUKERESO_NAME(Query& VAR_QUERY, const std::string& IDX,
   std::string TERMEKLEIRAS;
   guard_lookup(VAR_QUERY, [&] {
     if (!open_lookup(VAR_QUERY,
-                     "SELECT tipusmegnevezes, kiegeszitok FROM laptop_adatbazis "
-                     "WHERE id='" +
-                         IDX + "';"))
+                     statements::product_columns({"tipusmegnevezes", "kiegeszitok"}, IDX)))
       return;
     NEV = VAR_QUERY.field_text("tipusmegnevezes");
     const std::string accessories = trim(VAR_QUERY.field_text("kiegeszitok"));
@@ -173,7 +170,7 @@ std::string GENERATE_TALMO_TERMEKNEV(Query& VAR_QUERY, const std::string& IDX,
   guard_lookup(
       VAR_QUERY,
       [&] {
-        if (!open_lookup(VAR_QUERY, "SELECT gyarto FROM laptop_adatbazis WHERE id='" + IDX + "';"))
+        if (!open_lookup(VAR_QUERY, statements::product_columns({"gyarto"}, IDX)))
           return;
         const std::string GYARTO = VAR_QUERY.field_text("gyarto");
         if (!GYARTO.empty())

@@ -1,6 +1,7 @@
 #include "product/published.h"
 
 #include "core/lookup.h"
+#include "core/statements.h"
 #include "core/strings.h"
 
 namespace talmo {
@@ -8,7 +9,7 @@ namespace talmo {
 bool PRODUCTPUBLISHED(Query& VAR_QUERY, const std::string& IDX) {
   bool published = false;
   guard_lookup(VAR_QUERY, [&] {
-    if (open_lookup(VAR_QUERY, "SELECT published FROM laptop_adatbazis WHERE id='" + IDX + "';")) {
+    if (open_lookup(VAR_QUERY, statements::product_columns({"published"}, IDX))) {
       published = VAR_QUERY.field_bool("published");
     }
   });
@@ -18,7 +19,7 @@ bool PRODUCTPUBLISHED(Query& VAR_QUERY, const std::string& IDX) {
 bool ISONLYFORGRANDO(Query& VAR_QUERY, const std::string& IDX) {
   bool clearance = false;
   guard_lookup(VAR_QUERY, [&] {
-    if (open_lookup(VAR_QUERY, "SELECT sorszam FROM laptop_adatbazis WHERE id='" + IDX + "';")) {
+    if (open_lookup(VAR_QUERY, statements::product_columns({"sorszam"}, IDX))) {
       clearance = contains(upper_ascii(VAR_QUERY.field_text("sorszam")), "AKC");
     }
   });

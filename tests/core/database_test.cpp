@@ -7,6 +7,7 @@
 
 #include "core/database.h"
 #include "core/errors.h"
+#include "core/statements.h"
 #include "tests/support/test_support.h"
 
 namespace talmo::testing {
@@ -26,7 +27,7 @@ class Database : public ::testing::Test {
 
   // The named column of every row, in the statement's order.
   StringList column(const std::string& sql, const std::string& name) {
-    db_.query.set_sql(sql);
+    db_.query.set_statement(Statement(StatementKind::unlisted, {}, sql));
     db_.query.open();
     StringList values;
     for (db_.query.first(); !db_.query.eof(); db_.query.next())
@@ -56,7 +57,9 @@ TEST_F(Database, TextsNullsAndFlagsReadBackUnchanged) {
            {"100", "Szállítási idõ | ő ű", false},
            {"2", "", true},
        }) {
-    db_.query.set_sql("SELECT label, flag FROM harness_rows WHERE id='" + c.id + "';");
+    db_.query.set_statement(
+        Statement(StatementKind::unlisted, {},
+                  "SELECT label, flag FROM harness_rows WHERE id='" + c.id + "';"));
     db_.query.open();
     ASSERT_EQ(db_.query.record_count(), 1) << c.id;
     EXPECT_EQ(db_.query.field_text("label"), c.label) << c.id;

@@ -81,7 +81,7 @@ TEST(ReplacingFile, OldFileStaysUntilTheNewOneIsCommitted) {
     file.write_line("new");
     EXPECT_EQ(read_file(path), "old\n");
     EXPECT_EQ(entries_in(dir.path()), 2u);  // the feed and its temporary file
-  }  // abandoned, as when an export fails half-way
+  }                                         // abandoned, as when an export fails half-way
   EXPECT_EQ(read_file(path), "old\n");
   EXPECT_EQ(entries_in(dir.path()), 1u);
   ReplacingFile file(path);

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "core/lookup.h"
+#include "core/statements.h"
 #include "product/published.h"
 #include "tests/support/test_support.h"
 
@@ -22,7 +23,7 @@ class Lookups : public ::testing::Test {
 
 TEST_F(Lookups, ErrorLinesCarryTheStatementWithItsLineEnd) {
   Query& query = db_.query;
-  query.set_sql("SELECT x FROM y;");
+  query.set_statement(Statement(StatementKind::unlisted, {}, "SELECT x FROM y;"));
   EXPECT_EQ(query_error_line(query, QueryErrorLine::plain, "boom"),
             "Error in Query: \r\rSELECT x FROM y;\n\r\r");
   EXPECT_EQ(query_error_line(query, QueryErrorLine::with_message, "boom"),
@@ -34,19 +35,19 @@ TEST_F(Lookups, ErrorLinesCarryTheStatementWithItsLineEnd) {
 
 TEST_F(Lookups, LookupTextGivesTheFirstRowOrNothing) {
   CapturedStdout out;
-  EXPECT_EQ(lookup_text(db_.query, "SELECT sorszam FROM laptop_adatbazis WHERE id='2';", "sorszam"),
+  EXPECT_EQ(lookup_text(db_.query, statements::product_columns({"sorszam"}, "2"), "sorszam"),
             "AKC-77");
-  EXPECT_EQ(
-      lookup_text(db_.query, "SELECT sorszam FROM laptop_adatbazis WHERE id='99';", "sorszam"), "");
-  EXPECT_EQ(
-      lookup_text(db_.query, "SELECT sorszam FROM laptop_adatbazis WHERE id='10';", "sorszam"), "");
+  EXPECT_EQ(lookup_text(db_.query, statements::product_columns({"sorszam"}, "99"), "sorszam"), "");
+  EXPECT_EQ(lookup_text(db_.query, statements::product_columns({"sorszam"}, "10"), "sorszam"), "");
+  // The cursor keeps the last statement it ran, with its kind and values.
+  EXPECT_EQ(db_.query.statement().kind(), StatementKind::product_columns);
+  EXPECT_EQ(db_.query.statement().parameters(), (StringList{"sorszam", "10"}));
   EXPECT_EQ(out.text(), "");
 }
 
 TEST_F(Lookups, FailedLookupPrintsTheDefaultLineAndGivesItsDefault) {
   CapturedStdout out;
-  EXPECT_EQ(lookup_text(db_.query, "SELECT nothere FROM laptop_adatbazis WHERE id='1';", "nothere"),
-            "");
+  EXPECT_EQ(lookup_text(db_.query, statements::product_columns({"nothere"}, "1"), "nothere"), "");
   EXPECT_FALSE(PRODUCTPUBLISHED(db_.query, "1'"));
   EXPECT_EQ(out.text(),
             "Error in Query: \r\rSELECT nothere FROM laptop_adatbazis WHERE id='1';\n\r\r\n"

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+#include <string>
+#include <vector>
+
 #include "core/errors.h"
 
 namespace talmo {
@@ -38,33 +42,79 @@ TEST(ListPositions, MissingPositionRaisesOrReadsEmpty) {
   EXPECT_EQ(item_or_empty(list, 2), "");
 }
 
-TEST(ToInteger, AcceptsSignAndDigitsOnly) {
+// Each text with its value, or no value; the raising form gives the same value or raises.
+TEST(Integers, AcceptSignAndDigitsOnly) {
   struct Case {
     std::string text;
-    std::int32_t value;
+    std::optional<std::int32_t> value;
   };
-  for (const Case& c : std::vector<Case>{{"0", 0},
-                                         {"27", 27},
-                                         {"-5", -5},
-                                         {"+7", 7},
-                                         {"007", 7},
-                                         {"2147483647", 2147483647},
-                                         {"-2147483648", -2147483647 - 1}}) {
-    EXPECT_EQ(to_integer(c.text), c.value) << c.text;
-  }
-  for (const std::string bad :
-       {"", " 1", "1 ", "1.0", "0x1A", "abc", "-", "2147483648", "99999999999999999999"}) {
-    EXPECT_THROW(to_integer(bad), ConversionError) << bad;
+  for (const Case& c : std::vector<Case>{
+           {"0", 0},
+           {"27", 27},
+           {"-5", -5},
+           {"+7", 7},
+           {"007", 7},
+           {"2147483647", 2147483647},
+           {"-2147483648", -2147483647 - 1},
+           {"", std::nullopt},
+           {" 1", std::nullopt},
+           {"1 ", std::nullopt},
+           {"1\n", std::nullopt},
+           {"1.0", std::nullopt},
+           {"1e3", std::nullopt},
+           {"0x1A", std::nullopt},
+           {"abc", std::nullopt},
+           {"-", std::nullopt},
+           {"+", std::nullopt},
+           {"--1", std::nullopt},
+           {"2147483648", std::nullopt},
+           {"-2147483649", std::nullopt},
+           {"99999999999999999999", std::nullopt},
+       }) {
+    EXPECT_EQ(parse_integer(c.text), c.value) << c.text;
+    if (c.value)
+      EXPECT_EQ(to_integer(c.text), *c.value) << c.text;
+    else
+      EXPECT_THROW(to_integer(c.text), ConversionError) << c.text;
   }
 }
 
-TEST(ToNumber, AcceptsDecimalPointAndExponent) {
-  EXPECT_DOUBLE_EQ(to_number("1.5"), 1.5);
-  EXPECT_DOUBLE_EQ(to_number("-12"), -12);
-  EXPECT_DOUBLE_EQ(to_number("1e3"), 1000);
-  EXPECT_DOUBLE_EQ(to_number("2.5E-1"), 0.25);
-  for (const std::string bad : {"", "12.", ".5", "1,5", "1 000", "e5", "1e", "abc", "0x10"}) {
-    EXPECT_THROW(to_number(bad), ConversionError) << bad;
+TEST(Numbers, AcceptDecimalPointAndExponent) {
+  struct Case {
+    std::string text;
+    std::optional<double> value;
+  };
+  for (const Case& c : std::vector<Case>{
+           {"1.5", 1.5},
+           {"-12", -12},
+           {"+0.5", 0.5},
+           {"007.50", 7.5},
+           {"1e3", 1000},
+           {"1e+2", 100},
+           {"2.5E-1", 0.25},
+           {"2147483648", 2147483648.0},
+           {"", std::nullopt},
+           {"12.", std::nullopt},
+           {".5", std::nullopt},
+           {"1,5", std::nullopt},
+           {"1 000", std::nullopt},
+           {" 1", std::nullopt},
+           {"1 ", std::nullopt},
+           {"e5", std::nullopt},
+           {"1e", std::nullopt},
+           {"1.5e+", std::nullopt},
+           {"abc", std::nullopt},
+           {"0x10", std::nullopt},
+           {"inf", std::nullopt},
+           {"nan", std::nullopt},
+           {"-", std::nullopt},
+           {"1e999", std::nullopt},
+       }) {
+    EXPECT_EQ(parse_number(c.text), c.value) << c.text;
+    if (c.value)
+      EXPECT_EQ(to_number(c.text), *c.value) << c.text;
+    else
+      EXPECT_THROW(to_number(c.text), ConversionError) << c.text;
   }
 }
 

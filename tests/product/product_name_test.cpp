@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/errors.h"
+#include "core/statements.h"
 #include "tests/support/test_support.h"
 
 namespace talmo::testing {
@@ -84,7 +85,7 @@ std::string sql_text(const std::string& value) {
 
 // What the server answers to `sql`; its wording differs between server versions.
 std::string server_message(Query& query, const std::string& sql) {
-  query.set_sql(sql);
+  query.set_statement(Statement(StatementKind::unlisted, {}, sql));
   try {
     query.open();
   } catch (const DatabaseError& error) {
