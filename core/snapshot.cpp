@@ -1,6 +1,7 @@
 #include "core/snapshot.h"
 
 #include <algorithm>
+#include <span>
 
 #include "core/collation.h"
 #include "core/errors.h"
@@ -48,33 +49,6 @@ bool is_identifier(const std::string& name) {
   });
 }
 
-// The statement the catalogue builds from `statement`'s kind and parameters, so that only a
-// statement whose text says what its kind and parameters say is answered from the tables.
-std::optional<Statement> rebuilt(const Statement& statement) {
-  const StringList& p = statement.parameters();
-  switch (statement.kind()) {
-    case StatementKind::product_columns:
-      if (p.size() < 2)
-        return std::nullopt;
-      return statements::product_columns(StringList(p.begin(), p.end() - 1), p.back());
-    case StatementKind::price_amounts:
-      return p.size() == 1 ? std::optional(statements::price_amounts(p[0])) : std::nullopt;
-    case StatementKind::level_zero_categories:
-      return p.size() == 1 ? std::optional(statements::level_zero_categories(p[0])) : std::nullopt;
-    case StatementKind::product_in_category:
-      return p.size() == 2 ? std::optional(statements::product_in_category(p[0], p[1]))
-                           : std::nullopt;
-    case StatementKind::product_currency:
-      return p.size() == 1 ? std::optional(statements::product_currency(p[0])) : std::nullopt;
-    case StatementKind::fixed_price:
-      return p.size() == 2 ? std::optional(statements::fixed_price(p[0], p[1])) : std::nullopt;
-    case StatementKind::extra_texts:
-      return p.size() == 2 ? std::optional(statements::extra_texts(p[0], p[1])) : std::nullopt;
-    default:
-      return std::nullopt;
-  }
-}
-
 }  // namespace
 
 Snapshot::Snapshot(Connection& connection) : connection_(connection) {}
@@ -106,32 +80,43 @@ std::shared_ptr<const ResultSet> Snapshot::answer_by_text(const std::string& sen
 }
 
 std::optional<ResultSet> Snapshot::answer_from_tables(const Statement& statement) {
-  const std::optional<Statement> expected = rebuilt(statement);
-  if (!expected || expected->text() != statement.text())
-    return std::nullopt;
+  // Only the catalogue builds statements of these kinds, so their parameters say what their
+  // text says.
   const StringList& p = statement.parameters();
-  switch (statement.kind()) {
-    case StatementKind::product_columns:
-      return product_columns(StringList(p.begin(), p.end() - 1), p.back());
-    case StatementKind::price_amounts:
-      // One row at most: the id is the primary key, so its order and limit change nothing.
-      return product_columns(statements::price_amount_columns(), p[0]);
-    case StatementKind::level_zero_categories:
-      return level_zero_categories(p[0]);
-    case StatementKind::product_in_category:
-      return product_in_category(p[0], p[1]);
-    case StatementKind::product_currency:
-      return product_currency(p[0]);
-    case StatementKind::fixed_price:
-      return fixed_price(p[0], p[1]);
-    case StatementKind::extra_texts:
-      return extra_texts(p[0], p[1]);
-    default:
-      return std::nullopt;
+  const StatementKind kind = statement.kind();
+  if (kind == StatementKind::product_columns && p.size() >= 2)
+    return product_columns(p.data(), p.size() - 1, p.back());
+  if (p.size() == 1) {
+    switch (kind) {
+      case StatementKind::price_amounts: {
+        // One row at most: the id is the primary key, so its order and limit change nothing.
+        const StringList& columns = statements::price_amount_columns();
+        return product_columns(columns.data(), columns.size(), p[0]);
+      }
+      case StatementKind::level_zero_categories:
+        return level_zero_categories(p[0]);
+      case StatementKind::product_currency:
+        return product_currency(p[0]);
+      default:
+        return std::nullopt;
+    }
   }
+  if (p.size() == 2) {
+    switch (kind) {
+      case StatementKind::product_in_category:
+        return product_in_category(p[0], p[1]);
+      case StatementKind::fixed_price:
+        return fixed_price(p[0], p[1]);
+      case StatementKind::extra_texts:
+        return extra_texts(p[0], p[1]);
+      default:
+        return std::nullopt;
+    }
+  }
+  return std::nullopt;
 }
 
-std::optional<ResultSet> Snapshot::product_columns(const StringList& columns,
+std::optional<ResultSet> Snapshot::product_columns(const std::string* columns, std::size_t count,
                                                    const std::string& IDX) {
   if (!is_canonical_id(IDX))
     return std::nullopt;
@@ -141,7 +126,7 @@ std::optional<ResultSet> Snapshot::product_columns(const StringList& columns,
   WholeTable& products = *products_table;
   ResultSet result;
   std::vector<std::size_t> positions;
-  for (const std::string& name : columns) {
+  for (const std::string& name : std::span(columns, count)) {
     const std::optional<std::size_t> position = products.column(name);
     if (!is_identifier(name) || !position)
       return std::nullopt;  // the server's error message is the server's to give

@@ -50,7 +50,8 @@ class Snapshot {
   std::shared_ptr<const ResultSet> answer_by_text(const std::string& sent);
   // The answer worked out from the whole tables, or nullopt where that is not certain.
   std::optional<ResultSet> answer_from_tables(const Statement& statement);
-  std::optional<ResultSet> product_columns(const StringList& columns, const std::string& IDX);
+  std::optional<ResultSet> product_columns(const std::string* columns, std::size_t count,
+                                           const std::string& IDX);
   std::optional<ResultSet> level_zero_categories(const std::string& IDX);
   std::optional<ResultSet> product_in_category(const std::string& IDX,
                                                const std::string& category_id);
