@@ -760,14 +760,19 @@ def make_hostile(dice, tables, category_ids):
     tables["extra_jellemzo"] = (["ex_id"] + columns, shuffled_ids(dice, spoiled, key=lambda r: r[1]))
 
     # Half the seeds hold one key the tool cannot compare as the database does: an accented site
-    # code (equal to the plain one for the database) or a category id with a blank after it.
+    # code (equal to the plain one for the database) or a product kind's id with a blank after it
+    # (equal to the number for the database).
     if dice.chance(0.5):
         columns, rows = tables["extra_jellemzo"]
         pid = pids[len(pids) // 2] if pids else "1"
         rows.append((max(r[0] for r in rows) + 1 if rows else 1, "0", pid, "hú",
                      "Ékezetes kulcs"))
     if dice.chance(0.5):
-        links.append(("0", "1", str(category_ids[TABLET]) + " "))
+        kinds = {str(category_ids[kind]) for kind in (LAPTOP, TABLET, AIO)}
+        filed = [i for i, (_, _, cat) in enumerate(links) if cat in kinds]
+        if filed:
+            type_id, pid, cat = links[filed[len(filed) // 2]]
+            links[filed[len(filed) // 2]] = (type_id, pid, cat + " ")
 
 
 def descending_ids(rows, key):
