@@ -1,12 +1,15 @@
 #include "app/application.h"
 
 #include <exception>
+#include <optional>
 
 #include "app/exports.h"
 #include "app/options.h"
 #include "app/run_mode.h"
 #include "core/console.h"
+#include "core/directory_lock.h"
 #include "core/errors.h"
+#include "core/file_output.h"
 #include "core/system.h"
 
 namespace talmo {
@@ -21,6 +24,17 @@ bool ask(RunContext& run, const std::string& prompt) {
     run.VALASZ = line->front();
   }
   return EVAL_VALASZ(run.VALASZ);
+}
+
+// PATH as the operator would type it: without its closing "/", unless it is the root.
+std::string directory_name(const std::string& PATH) {
+  return PATH.size() > 1 ? PATH.substr(0, PATH.size() - 1) : PATH;
+}
+
+// A killed run can leave a feed's temporary file behind; nothing else may be writing them now.
+void remove_leftovers_of_killed_runs(const RunContext& run) {
+  for (const ExportChoice& choice : export_choices())
+    remove_leftover_temporary_files(run.PATH + choice.feed_file);
 }
 
 }  // namespace
@@ -77,6 +91,15 @@ void TTalmo_Software::DoRun() {
 
   RunContext run;
   run.PATH = executable_directory();
+  // One run at a time in this directory: a second one leaves every file alone.
+  std::optional<DirectoryLock> lock(std::in_place, run.PATH);
+  if (!lock->held()) {
+    write_line("Another run is working in " + directory_name(run.PATH));
+    failed_ = true;
+    Terminate();
+    return;
+  }
+  remove_leftovers_of_killed_runs(run);
   if (!GETLOGININFO(run.PATH, run.LOGIN)) {
     run.LOGIN = default_login();
     SETLOGININFO(run.PATH, run.LOGIN);
@@ -111,6 +134,8 @@ void TTalmo_Software::DoRun() {
     failed_ = true;
   }
 
+  // The next run may start while this one waits for its ENTER.
+  lock.reset();
   // Printed after a caught error too: the operators rely on the run always ending so.
   write_text("Software Finished succesfully. Press ENTER to quit");
   read_line();
@@ -135,6 +160,8 @@ void TTalmo_Software::run_chosen_exports(RunContext& run) {
 }
 
 int run_talmo_software(int argc, char** argv) {
+  reopen_closed_standard_streams();
+  ignore_broken_pipes();
   TTalmo_Software APPLICATION(StringList(argv + 1, argv + argc));
   APPLICATION.Title = "Talmo_Software";
   return APPLICATION.Run();

@@ -30,6 +30,8 @@ void list_product_ids(Query& query, StringList& ids) {
       }
     }
     query.close();
+  } catch (const ConnectionLost&) {
+    throw;
   } catch (const TalmoError& error) {
     write_line(query_error_line(query, QueryErrorLine::id_list, error.what()));
   }
@@ -53,15 +55,15 @@ void run_export(RunContext& run, const std::string& site, const std::string& sta
 
 constexpr ExportChoice kExportChoices[] = {
     {"Start TALMO export? (y/n): ", &RunContext::DO_TALMO, "Beginning TALMO export",
-     "TALMO export skipped", DO_EXPORT_TALMO},
+     "TALMO export skipped", "export/hu/talmo.xml", DO_EXPORT_TALMO},
     {"Start ARUKERESO export? (y/n): ", &RunContext::DO_ARUKERESO, "Beginning ARUKERESO export",
-     "ARUKERESO export skipped", DO_EXPORT_ARUKERESO},
+     "ARUKERESO export skipped", "export/hu/arukereso.csv", DO_EXPORT_ARUKERESO},
     {"Start GRANDO export? (y/n): ", &RunContext::DO_GRANDO, "Beginning GRANDO export",
-     "GRANDO export skipped", DO_EXPORT_GRANDO},
+     "GRANDO export skipped", "export/hu/grando.xml", DO_EXPORT_GRANDO},
     {"Start VATERA export? (y/n): ", &RunContext::DO_VATERA, "Beginning VATERA export",
-     "VATERA export skipped", DO_EXPORT_VATERA},
+     "VATERA export skipped", "export/hu/vatera.csv", DO_EXPORT_VATERA},
     {"Start HEUREKA.SK export? (y/n): ", &RunContext::DO_HEUREKASK, "Beginning HEUREKA.SK export",
-     "HEUREKA.SK export skipped", DO_EXPORT_HEUREKASK},
+     "HEUREKA.SK export skipped", "export/sk/heureka.xml", DO_EXPORT_HEUREKASK},
 };
 
 }  // namespace

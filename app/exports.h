@@ -12,6 +12,7 @@ struct ExportChoice {
   bool RunContext::*flag;      // where the answer is kept
   const char* beginning_line;  // written before the export runs
   const char* skip_line;       // written instead when the answer is no
+  const char* feed_file;       // the file it writes, under the executable's directory
   void (*export_operation)(RunContext& run);
 };
 

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "core/errors.h"
 #include "core/file_input.h"
 #include "core/file_output.h"
 #include "core/strings.h"
@@ -11,6 +12,8 @@ namespace talmo {
 namespace {
 
 constexpr const char* kSettingsFile = "config.dat";
+// Five short lines; anything much larger is not a settings file.
+constexpr std::uint64_t kLargestSettingsFile = 64 * 1024;
 
 // Lines ending in "\n" or "\r\n"; a last line without a line end still counts.
 StringList split_lines(const std::string& content) {
@@ -35,23 +38,29 @@ LOGININFO default_login() {
   return LOGININFO{site_config::kDefaultDatabaseHost, "3306", "exprtr", "T7d3wq415M", "uj_db"};
 }
 
+LOGININFO parse_login_settings(const std::string& CONTENT) {
+  const StringList lines = split_lines(CONTENT);
+  return LOGININFO{item_or_empty(lines, 0), item_or_empty(lines, 1), item_or_empty(lines, 2),
+                   item_or_empty(lines, 3), item_or_empty(lines, 4)};
+}
+
 bool GETLOGININFO(const std::string& PATH, LOGININFO& LOGIN) {
-  const std::optional<std::string> content = read_whole_file(PATH + kSettingsFile);
+  const std::string path = PATH + kSettingsFile;
+  const PathFacts facts = path_facts(path);
+  if (!facts.exists)
+    return false;
+  if (!facts.regular || facts.size > kLargestSettingsFile)
+    throw FileError(path);
+  const std::optional<std::string> content = read_whole_file(path);
   if (!content)
     return false;
-  const StringList lines = split_lines(*content);
-  LOGIN.IP = item_or_empty(lines, 0);
-  LOGIN.PORT = item_or_empty(lines, 1);
-  LOGIN.USERNAME = item_or_empty(lines, 2);
-  LOGIN.PASSWORD = item_or_empty(lines, 3);
-  LOGIN.DATABASE = item_or_empty(lines, 4);
+  LOGIN = parse_login_settings(*content);
   return true;
 }
 
 void SETLOGININFO(const std::string& PATH, const LOGININFO& LOGIN) {
-  save_lines_with_mode(PATH + kSettingsFile,
-                       {LOGIN.IP, LOGIN.PORT, LOGIN.USERNAME, LOGIN.PASSWORD, LOGIN.DATABASE},
-                       0600);
+  overwrite_lines(PATH + kSettingsFile,
+                  {LOGIN.IP, LOGIN.PORT, LOGIN.USERNAME, LOGIN.PASSWORD, LOGIN.DATABASE}, 0600);
 }
 
 }  // namespace talmo

@@ -5,7 +5,7 @@
 namespace talmo {
 
 bool answers_from_snapshot() {
-  return environment_variable("TALMO_SNAPSHOT") != "off";
+  return environment_value("TALMO_SNAPSHOT") != "off";
 }
 
 }  // namespace talmo

@@ -1,11 +1,52 @@
 #include "core/database.h"
 
+#include <errmsg.h>
 #include <mysql.h>
+#include <mysqld_error.h>
 
 #include "core/errors.h"
 #include "core/snapshot.h"
+#include "core/strings.h"
+#include "core/system.h"
 
 namespace talmo {
+namespace {
+
+constexpr unsigned int kDefaultTimeoutSeconds = 300;
+
+// TALMO_DB_TIMEOUT_S when it is a whole number of seconds above zero, else five minutes.
+unsigned int database_timeout_seconds() {
+  const std::optional<std::string> text = environment_value("TALMO_DB_TIMEOUT_S");
+  const std::optional<std::int32_t> seconds = text ? parse_integer(*text) : std::nullopt;
+  return seconds && *seconds > 0 ? static_cast<unsigned int>(*seconds) : kDefaultTimeoutSeconds;
+}
+
+// Errors after which the connection is of no more use: the client lost the server (gone away,
+// lost during a query, a read or write time-out), or the server shut down or killed it.
+bool connection_is_lost(unsigned int code) {
+  switch (code) {
+    case CR_SERVER_GONE_ERROR:
+    case CR_SERVER_LOST:
+    case CR_SERVER_LOST_EXTENDED:
+    case ER_SERVER_SHUTDOWN:
+    case ER_CONNECTION_KILLED:
+    case ER_NET_READ_INTERRUPTED:
+    case ER_NET_WRITE_INTERRUPTED:
+    case ER_NET_READ_ERROR:
+    case ER_NET_ERROR_ON_WRITE:
+      return true;
+    default:
+      return false;
+  }
+}
+
+[[noreturn]] void throw_statement_error(MYSQL* mysql) {
+  if (connection_is_lost(mysql_errno(mysql)))
+    throw ConnectionLost(mysql_error(mysql));
+  throw DatabaseError(mysql_error(mysql));
+}
+
+}  // namespace
 
 struct Connection::Handle {
   MYSQL* mysql = nullptr;
@@ -42,10 +83,15 @@ void Connection::open(const std::string& host, const std::string& user, const st
   if (handle_->mysql == nullptr)
     throw DatabaseError("Out of memory while connecting");
   mysql_options(handle_->mysql, MYSQL_SET_CHARSET_NAME, "utf8");
+  // A frozen server must not hang a nightly run: connect, read and write give up after this.
+  const unsigned int timeout = database_timeout_seconds();
+  mysql_options(handle_->mysql, MYSQL_OPT_CONNECT_TIMEOUT, &timeout);
+  mysql_options(handle_->mysql, MYSQL_OPT_READ_TIMEOUT, &timeout);
+  mysql_options(handle_->mysql, MYSQL_OPT_WRITE_TIMEOUT, &timeout);
   // Port 0: the client library's default, so MYSQL_TCP_PORT can point the tool elsewhere.
   if (mysql_real_connect(handle_->mysql, host.c_str(), user.c_str(), password.c_str(),
                          database.c_str(), 0, nullptr, 0) == nullptr) {
-    throw DatabaseError(mysql_error(handle_->mysql));
+    throw ConnectionLost(mysql_error(handle_->mysql));
   }
   handle_->connected = true;
   execute("SET SESSION TRANSACTION READ ONLY");
@@ -59,13 +105,13 @@ ResultSet Connection::select(const std::string& statement) {
   MYSQL* mysql = connected_handle(handle_->mysql, handle_->connected);
   ++statements_sent_;
   if (mysql_real_query(mysql, statement.data(), statement.size()) != 0)
-    throw DatabaseError(mysql_error(mysql));
+    throw_statement_error(mysql);
   // Rows are taken one by one as they arrive: a whole table read for the snapshot is not held
   // twice.
   MYSQL_RES* result = mysql_use_result(mysql);
   if (result == nullptr) {
     if (mysql_field_count(mysql) != 0)
-      throw DatabaseError(mysql_error(mysql));
+      throw_statement_error(mysql);
     throw DatabaseError("The statement returned no rows");
   }
   ResultSet set;
@@ -81,11 +127,11 @@ ResultSet Connection::select(const std::string& statement) {
         cells[f].emplace(row[f], lengths[f]);
     }
   }
+  // A failure while the rows arrive (the connection lost midway) shows once they stop.
   const bool failed = mysql_errno(mysql) != 0;
-  const std::string message = failed ? mysql_error(mysql) : "";
   mysql_free_result(result);
   if (failed)
-    throw DatabaseError(message);
+    throw_statement_error(mysql);
   return set;
 }
 
@@ -93,7 +139,7 @@ void Connection::execute(const std::string& statement) {
   MYSQL* mysql = connected_handle(handle_->mysql, handle_->connected);
   ++statements_sent_;
   if (mysql_real_query(mysql, statement.data(), statement.size()) != 0)
-    throw DatabaseError(mysql_error(mysql));
+    throw_statement_error(mysql);
   if (MYSQL_RES* result = mysql_store_result(mysql))
     mysql_free_result(result);
 }

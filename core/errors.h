@@ -18,6 +18,15 @@ class DatabaseError : public TalmoError {
   using TalmoError::TalmoError;
 };
 
+// The connection to the database is gone (the server went away, shut down, killed the
+// connection, or did not answer within the time-out). No later statement can succeed and the tool
+// does not reconnect, so this passes every lookup guard and ends the run like a connection that
+// cannot be opened: the export under way writes nothing.
+class ConnectionLost : public DatabaseError {
+ public:
+  using DatabaseError::DatabaseError;
+};
+
 // A file could not be written. The message names the final file, never a temporary one.
 class FileError : public TalmoError {
  public:

@@ -31,6 +31,8 @@ bool guard_lookup(Query& query, Body&& body, QueryErrorLine style = QueryErrorLi
   try {
     body();
     return true;
+  } catch (const ConnectionLost&) {
+    throw;
   } catch (const TalmoError& error) {
     write_line(query_error_line(query, style, error.what()));
     return false;

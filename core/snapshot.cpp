@@ -66,9 +66,12 @@ std::shared_ptr<const ResultSet> Snapshot::answer_by_text(const std::string& sen
   auto known = answers_by_text_.find(sent);
   if (known == answers_by_text_.end()) {
     Answer answer;
-    // The refusal is remembered with its message: the statement would fail so every time.
+    // The refusal is remembered with its message: the statement would fail so every time. A
+    // lost connection is no answer; it ends the run.
     try {
       answer = std::make_shared<const ResultSet>(connection_.select(sent));
+    } catch (const ConnectionLost&) {
+      throw;
     } catch (const DatabaseError& error) {
       answer = std::string(error.what());
     }
@@ -341,6 +344,8 @@ WholeTable* Snapshot::table(TableSlot& slot, const char* name, const char* id_co
     // each its own answer or message.
     try {
       slot.table = std::make_unique<WholeTable>(connection_, name, id_column);
+    } catch (const ConnectionLost&) {
+      throw;
     } catch (const DatabaseError&) {
     }
   }

@@ -1,7 +1,10 @@
 #include "core/system.h"
 
+#include <fcntl.h>
 #include <limits.h>
+#include <signal.h>
 #include <unistd.h>
+#include <cerrno>
 #include <chrono>
 #include <cstdlib>
 
@@ -21,16 +24,29 @@ std::string executable_directory() {
   return directory;
 }
 
-std::optional<std::string> environment_variable(const char* name) {
-  const char* value = std::getenv(name);
-  if (value == nullptr)
-    return std::nullopt;
-  return std::string(value);
-}
-
 std::int64_t clock_milliseconds() {
   using namespace std::chrono;
   return duration_cast<milliseconds>(system_clock::now().time_since_epoch()).count();
+}
+
+void reopen_closed_standard_streams() {
+  for (int fd = 0; fd <= 2; ++fd) {
+    if (::fcntl(fd, F_GETFD) != -1 || errno != EBADF)
+      continue;
+    // open() takes the lowest free number, which is this one.
+    const int opened = ::open("/dev/null", fd == 0 ? O_RDONLY : O_WRONLY);
+    if (opened >= 0 && opened != fd)
+      ::close(opened);
+  }
+}
+
+void ignore_broken_pipes() {
+  ::signal(SIGPIPE, SIG_IGN);
+}
+
+std::optional<std::string> environment_value(const char* name) {
+  const char* value = std::getenv(name);
+  return value == nullptr ? std::nullopt : std::optional<std::string>(value);
 }
 
 }  // namespace talmo

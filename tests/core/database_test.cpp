@@ -2,7 +2,6 @@
 // written by the command-line client must read back unchanged through the tool's connection.
 #include <gtest/gtest.h>
 
-#include <stdexcept>
 #include <vector>
 
 #include "core/database.h"
@@ -67,29 +66,6 @@ TEST_F(Database, TextsNullsAndFlagsReadBackUnchanged) {
   }
 }
 
-TEST_F(Database, ResetLeavesTheEmptySchemaForOpenSessions) {
-  PrivateMariaDb::instance().reset_database();
-  EXPECT_EQ(column("SELECT COUNT(*) AS n FROM laptop_adatbazis;", "n"), (StringList{"0"}));
-  try {
-    column("SELECT id FROM harness_rows;", "id");
-    ADD_FAILURE() << "harness_rows survived the reset";
-  } catch (const DatabaseError& error) {
-    EXPECT_STREQ(error.what(), "Table 'uj_db.harness_rows' doesn't exist");
-  }
-}
-
-TEST_F(Database, FailedFixtureStatementRaisesTheClientsMessage) {
-  try {
-    PrivateMariaDb::instance().run_sql("INSERT INTO harness_rows (id) VALUES (1);\nSELEC 1;");
-    ADD_FAILURE() << "no error raised";
-  } catch (const std::runtime_error& error) {
-    EXPECT_NE(std::string(error.what()).find("ERROR 1064 (42000) at line 2"), std::string::npos)
-        << error.what();
-  }
-}
-
-// The end-to-end tests compare the tool's refusal line whole; a server that skipped name
-// resolution would name the login 'exprtr'@'127.0.0.1' instead.
 TEST_F(Database, RefusedLoginIsNamedFromLocalhost) {
   Connection connection;
   try {

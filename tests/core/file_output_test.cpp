@@ -2,7 +2,9 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <filesystem>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -48,13 +50,22 @@ TEST(SaveLines, NewFileGetsUmaskDefaultAndExistingFileKeepsItsMode) {
   ::umask(mask);
 }
 
-TEST(SaveLines, PrivateModeIsForcedEvenOnAnExistingFile) {
+TEST(OverwriteLines, NewFileIsPrivateAndAnExistingOneIsWrittenInPlace) {
   TempDir dir;
-  write_file(dir.path() + "/config.dat", "old");
-  ::chmod((dir.path() + "/config.dat").c_str(), 0644);
-  save_lines_with_mode(dir.path() + "/config.dat", {"h", "p"}, 0600);
-  EXPECT_EQ(mode_of(dir.path() + "/config.dat"), 0600u);
-  EXPECT_EQ(read_file(dir.path() + "/config.dat"), "h\np\n");
+  const std::string path = dir.path() + "/config.dat";
+  overwrite_lines(path, {"h", "p"}, 0600);
+  EXPECT_EQ(mode_of(path), 0600u);
+  EXPECT_EQ(read_file(path), "h\np\n");
+  // The shop's own file keeps its identity and mode: it is not replaced by a new one.
+  ::chmod(path.c_str(), 0640);
+  struct stat before {};
+  ::stat(path.c_str(), &before);
+  overwrite_lines(path, {"x"}, 0600);
+  struct stat after {};
+  ::stat(path.c_str(), &after);
+  EXPECT_EQ(after.st_ino, before.st_ino);
+  EXPECT_EQ(mode_of(path), 0640u);
+  EXPECT_EQ(read_file(path), "x\n");
 }
 
 TEST(SaveLines, FailureNamesTheFinalFileAndLeavesNothingBehind) {
@@ -90,11 +101,41 @@ TEST(ReplacingFile, OldFileStaysUntilTheNewOneIsCommitted) {
   EXPECT_EQ(read_file(path), "new\n");
 }
 
-TEST(ReplacingFile, MissingFolderIsReportedOnlyAtCommit) {
+TEST(ReplacingFile, LinkedFeedIsUpdatedWhereTheLinkPoints) {
   TempDir dir;
-  ReplacingFile file(dir.path() + "/sk/heureka.xml");
-  file.write_line("x");  // no error yet: the console reports it at the save
-  EXPECT_THROW(file.commit(), FileError);
+  write_file(dir.path() + "/www/feeds/talmo.xml", "old\n");
+  ::chmod((dir.path() + "/www/feeds/talmo.xml").c_str(), 0640);
+  std::filesystem::create_directories(dir.path() + "/export/hu");
+  std::filesystem::create_symlink("../../www/feeds/talmo.xml", dir.path() + "/export/hu/talmo.xml");
+  std::filesystem::create_symlink(dir.path() + "/www/feeds/new.csv",
+                                  dir.path() + "/export/hu/arukereso.csv");  // dangling
+  save_lines(dir.path() + "/export/hu/talmo.xml", {"new"});
+  save_lines(dir.path() + "/export/hu/arukereso.csv", {"csv"});
+  EXPECT_TRUE(std::filesystem::is_symlink(dir.path() + "/export/hu/talmo.xml"));
+  EXPECT_TRUE(std::filesystem::is_symlink(dir.path() + "/export/hu/arukereso.csv"));
+  EXPECT_EQ(read_file(dir.path() + "/www/feeds/talmo.xml"), "new\n");
+  EXPECT_EQ(mode_of(dir.path() + "/www/feeds/talmo.xml"), 0640u);
+  EXPECT_EQ(read_file(dir.path() + "/www/feeds/new.csv"), "csv\n");
+  EXPECT_EQ(entries_in(dir.path() + "/www/feeds"), 2u);  // no temporary file left
+}
+
+TEST(ReplacingFile, LeftoversOfKilledRunsAreRemovedAndNothingElse) {
+  TempDir dir;
+  const std::string feeds = dir.path() + "/feeds";
+  for (const char* name :
+       {"talmo.xml", ".talmo.xml.tmp-a1B2c3", ".talmo.xml.tmp-zzzzzz", ".talmo.xml.tmp-short",
+        ".grando.xml.tmp-a1B2c3", "talmo.xml.tmp-a1B2c3", ".talmo.xml.tmp-a1B2c3.bak"})
+    write_file(feeds + "/" + name, "x");
+  std::filesystem::create_directories(dir.path() + "/export");
+  std::filesystem::create_symlink(feeds + "/talmo.xml", dir.path() + "/export/talmo.xml");
+  remove_leftover_temporary_files(dir.path() + "/export/talmo.xml");
+  std::vector<std::string> left;
+  for (const auto& entry : std::filesystem::directory_iterator(feeds))
+    left.push_back(entry.path().filename());
+  std::sort(left.begin(), left.end());
+  EXPECT_EQ(left, (std::vector<std::string>{".grando.xml.tmp-a1B2c3", ".talmo.xml.tmp-a1B2c3.bak",
+                                            ".talmo.xml.tmp-short", "talmo.xml",
+                                            "talmo.xml.tmp-a1B2c3"}));
 }
 
 }  // namespace

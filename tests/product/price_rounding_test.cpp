@@ -16,13 +16,8 @@ TEST(PriceRounding, RoundsHalfToEven) {
   struct Case {
     double value, rounded;
   };
-  for (const Case& c : std::vector<Case>{{0.5, 0},
-                                         {1.5, 2},
-                                         {2.5, 2},
-                                         {-1.5, -2},
-                                         {-2.5, -2},
-                                         {2.6, 3},
-                                         {0.49999999999999994, 0}}) {
+  for (const Case& c :
+       std::vector<Case>{{0.5, 0}, {1.5, 2}, {2.5, 2}, {-2.5, -2}, {0.49999999999999994, 0}}) {
     EXPECT_EQ(round_half_even(c.value), c.rounded) << c.value;
   }
 }
@@ -53,15 +48,11 @@ TEST(PriceRounding, ForintPricesEndIn90WithinTheirHundred) {
     double ended;
   };
   for (const Case& c : std::vector<Case>{{123456, 123490},
-                                         {123401, 123490},
                                          {99995, 99990},
                                          {0, 90},  // one figure: read as "00"
-                                         {9, 90},
-                                         {10, 90},
                                          {100, 190},
                                          {-5, -5},  // "-5": the tens place is the sign
                                          {-10, -90},
-                                         {-123, -190},
                                          {2147483647, 2147483690.0}}) {
     EXPECT_EQ(forint_ending(c.rounded), c.ended) << c.rounded;
   }
@@ -74,18 +65,13 @@ TEST(PriceRounding, SiteEndingsAsTheShopSeesThem) {
   };
   for (const Case& c : std::vector<Case>{
            {123456.4, "hu", "123490"},
-           {99994.6, "hu", "99990"},  // rounds to 99995, tens place 9
-           {9.5, "hu", "90"},         // 10 (ties to even) keeps the tens place 1
+           {9.5, "hu", "90"},  // 10 (ties to even) keeps the tens place 1
            {-0.4, "hu", "90"},
            {10.40, "sk", "10.9"},
-           {10.60, "sk", "11.9"},
            {10.5, "sk", "10.9"},  // rounds to 10, cents 50
            {11.5, "sk", "12.9"},  // rounds to 12, cents -50
-           {0, "sk", "0.9"},
            {-1.2, "sk", "-0.1"},
            {12345.5, "cz", "12346"},
-           {12346.5, "cz", "12346"},
-           {-0.4, "cz", "0"},
            {3e9, "cz", "3000000000"},
            {1234.5678, "pl", "1234.5678"},
        }) {
@@ -104,18 +90,13 @@ TEST(PriceRounding, GeneralShortestForm) {
   for (const Case& c : std::vector<Case>{
            {123490, "123490"},
            {11.9, "11.9"},
-           {11 + 0.9, "11.9"},
-           {100, "100"},
            {0, "0"},
            {-0.0, "0"},
-           {-5090, "-5090"},
            {0.1 + 0.2, "0.3"},
            {2.0 / 3, "0.666666666666667"},
            {1e-7, "0.0000001"},
-           {1e15, "1000000000000000"},
            {999999999999999.9, "1000000000000000"},
            {123456789012345678.0, "123456789012346000"},
-           {-1e21, "-1000000000000000000000"},
            {std::numeric_limits<double>::infinity(), "INF"},
        }) {
     EXPECT_EQ(format_general(c.value), c.text) << c.text;

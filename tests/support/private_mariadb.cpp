@@ -23,8 +23,8 @@ const char kCreateDatabase[] =
 const char kCreateLogin[] =
     "CREATE USER 'exprtr'@'%' IDENTIFIED BY 'T7d3wq415M';\n"
     "CREATE USER 'exprtr'@'localhost' IDENTIFIED BY 'T7d3wq415M';\n"
-    "GRANT ALL PRIVILEGES ON uj_db.* TO 'exprtr'@'%';\n"
-    "GRANT ALL PRIVILEGES ON uj_db.* TO 'exprtr'@'localhost';\n";
+    "GRANT SELECT ON uj_db.* TO 'exprtr'@'%';\n"
+    "GRANT SELECT ON uj_db.* TO 'exprtr'@'localhost';\n";
 
 // The last lines of a log, enough to see why a start failed.
 std::string tail(const std::string& text) {
@@ -186,6 +186,24 @@ void PrivateMariaDb::run_sql_file(const std::string& path) const {
 void PrivateMariaDb::reset_database() const {
   run_client(std::string("DROP DATABASE IF EXISTS uj_db;\n") + kCreateDatabase, "");
   run_sql_file(source_path("db/schema.sql"));
+}
+
+void PrivateMariaDb::signal_server(int signal) const {
+  if (pid_ > 0)
+    ::kill(pid_, signal);
+}
+
+void PrivateMariaDb::restart() {
+  if (pid_ > 0) {
+    ::kill(pid_, SIGKILL);
+    wait_process(pid_, 60);
+    pid_ = -1;
+  }
+  for (int attempt = 1; !start_server(); ++attempt) {
+    if (attempt == 3)
+      throw std::runtime_error("mariadbd found no free port in three attempts");
+  }
+  ::setenv("MYSQL_TCP_PORT", std::to_string(port_).c_str(), 1);
 }
 
 DbSession::DbSession() : server(PrivateMariaDb::instance()), query(connection) {

@@ -1,7 +1,6 @@
 #include "tests/support/subprocess.h"
 
 #include <fcntl.h>
-#include <poll.h>
 #include <signal.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
@@ -115,27 +114,36 @@ int decode(int status) {
   return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
 }
 
-// A write that reports a reader gone away as EPIPE instead of killing us with SIGPIPE.
-ssize_t write_without_sigpipe(int fd, const char* data, std::size_t size) {
-  sigset_t pipe_signal, previous;
-  ::sigemptyset(&pipe_signal);
-  ::sigaddset(&pipe_signal, SIGPIPE);
-  ::pthread_sigmask(SIG_BLOCK, &pipe_signal, &previous);
-  const ssize_t written = ::write(fd, data, size);
-  const int saved = errno;
-  if (written < 0 && saved == EPIPE) {
-    const timespec no_wait{0, 0};
-    ::sigtimedwait(&pipe_signal, nullptr, &no_wait);
-  }
-  ::pthread_sigmask(SIG_SETMASK, &previous, nullptr);
-  errno = saved;
-  return written;
+// A fresh unnamed temporary file for a child's input or output; -1 when none can be made.
+int temporary_file() {
+  const char* base = std::getenv("TMPDIR");
+  return ::open(base != nullptr && *base != '\0' ? base : "/tmp", O_TMPFILE | O_RDWR | O_CLOEXEC,
+                0600);
 }
 
-void close_fd(int& fd) {
-  if (fd >= 0)
-    ::close(fd);
-  fd = -1;
+std::string read_all(int fd) {
+  std::string text;
+  char buffer[65536];
+  ::lseek(fd, 0, SEEK_SET);
+  for (ssize_t got; (got = ::read(fd, buffer, sizeof buffer)) != 0;) {
+    if (got > 0)
+      text.append(buffer, static_cast<std::size_t>(got));
+    else if (errno != EINTR)
+      break;
+  }
+  return text;
+}
+
+// Waits up to the deadline for `pid` to end; nullopt when it had to be killed.
+std::optional<int> wait_until(pid_t pid, Clock::time_point deadline) {
+  std::chrono::milliseconds pause(1);
+  while (Clock::now() < deadline) {
+    if (const std::optional<int> code = poll_process(pid))
+      return code;
+    std::this_thread::sleep_for(pause);
+    pause = std::min(pause * 2, std::chrono::milliseconds(20));
+  }
+  return std::nullopt;
 }
 
 }  // namespace
@@ -143,56 +151,22 @@ void close_fd(int& fd) {
 RunResult run_process(const std::vector<std::string>& argv, const std::string& cwd,
                       const std::string& stdin_text, const Environment& additions,
                       int timeout_seconds) {
-  int in[2], out[2], err[2];
-  if (::pipe2(in, O_CLOEXEC) != 0 || ::pipe2(out, O_CLOEXEC) != 0 || ::pipe2(err, O_CLOEXEC) != 0)
-    throw_errno("pipe");
-  const pid_t pid = spawn(argv, cwd, additions, in[0], out[1], err[1]);
-  close_fd(in[0]);
-  close_fd(out[1]);
-  close_fd(err[1]);
-  ::fcntl(in[1], F_SETFL, O_NONBLOCK);
-  if (stdin_text.empty())
-    close_fd(in[1]);
-
+  // Files rather than pipes: the child never blocks on a full pipe and we never on a slow child.
+  const int in = temporary_file(), out = temporary_file(), err = temporary_file();
+  if (in < 0 || out < 0 || err < 0 ||
+      ::write(in, stdin_text.data(), stdin_text.size()) != static_cast<ssize_t>(stdin_text.size()))
+    throw_errno("temporary file for a child process");
+  ::lseek(in, 0, SEEK_SET);
+  const pid_t pid = spawn(argv, cwd, additions, in, out, err);
   RunResult result;
-  const Clock::time_point deadline = Clock::now() + std::chrono::seconds(timeout_seconds);
-  std::size_t sent = 0;
-  while (out[0] >= 0 || err[0] >= 0) {
-    const auto left =
-        std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now());
-    if (left.count() <= 0) {
-      ::kill(pid, SIGKILL);
-      result.timed_out = true;
-      break;
-    }
-    pollfd fds[3] = {{out[0], POLLIN, 0}, {err[0], POLLIN, 0}, {in[1], POLLOUT, 0}};
-    if (::poll(fds, 3, static_cast<int>(left.count())) < 0 && errno != EINTR)
-      throw_errno("poll");
-    for (int i = 0; i < 2; ++i) {
-      int& fd = i == 0 ? out[0] : err[0];
-      if (fd < 0 || fds[i].revents == 0)
-        continue;
-      char buffer[65536];
-      const ssize_t got = ::read(fd, buffer, sizeof buffer);
-      if (got > 0)
-        (i == 0 ? result.out : result.err).append(buffer, static_cast<std::size_t>(got));
-      else if (got == 0 || errno != EINTR)
-        close_fd(fd);
-    }
-    if (in[1] >= 0 && fds[2].revents != 0) {
-      const ssize_t put =
-          write_without_sigpipe(in[1], stdin_text.data() + sent, stdin_text.size() - sent);
-      if (put > 0)
-        sent += static_cast<std::size_t>(put);
-      if (sent == stdin_text.size() || (put < 0 && errno != EAGAIN && errno != EINTR))
-        close_fd(in[1]);
-    }
-  }
-  close_fd(in[1]);
-  close_fd(out[0]);
-  close_fd(err[0]);
-  const auto left = std::chrono::duration_cast<std::chrono::seconds>(deadline - Clock::now());
-  result.exit_code = wait_process(pid, static_cast<int>(std::max<long>(left.count(), 0)));
+  const std::optional<int> code =
+      wait_until(pid, Clock::now() + std::chrono::seconds(timeout_seconds));
+  result.timed_out = !code;
+  result.exit_code = code ? *code : wait_process(pid, 0);
+  result.out = read_all(out);
+  result.err = read_all(err);
+  for (const int fd : {in, out, err})
+    ::close(fd);
   return result;
 }
 
@@ -215,14 +189,9 @@ std::optional<int> poll_process(pid_t pid) {
 }
 
 int wait_process(pid_t pid, int timeout_seconds) {
-  const Clock::time_point deadline = Clock::now() + std::chrono::seconds(timeout_seconds);
-  std::chrono::milliseconds pause(1);
-  while (Clock::now() < deadline) {
-    if (const std::optional<int> code = poll_process(pid))
-      return *code;
-    std::this_thread::sleep_for(pause);
-    pause = std::min(pause * 2, std::chrono::milliseconds(20));
-  }
+  if (const std::optional<int> code =
+          wait_until(pid, Clock::now() + std::chrono::seconds(timeout_seconds)))
+    return *code;
   ::kill(pid, SIGKILL);
   int status = 0;
   while (::waitpid(pid, &status, 0) < 0 && errno == EINTR) {

@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <map>
+#include <optional>
 #include <sstream>
 #include <streambuf>
 #include <string>
@@ -40,6 +41,12 @@ class PrivateMariaDb {
   void run_sql_file(const std::string& path) const;
   // Drops and recreates uj_db and loads db/schema.sql into it: every table empty.
   void reset_database() const;
+
+  // Sends `signal` to the server process: SIGSTOP freezes it, SIGCONT thaws it, SIGKILL kills it.
+  void signal_server(int signal) const;
+  // Starts the server again after it was killed, on a new port (MYSQL_TCP_PORT follows). Tables
+  // written shortly before the kill may have lost rows: reload what a test needs.
+  void restart();
 
  private:
   PrivateMariaDb();
@@ -91,6 +98,14 @@ std::string read_file(const std::string& path);
 void write_file(const std::string& path, const std::string& content);
 // Whether anything (file, directory, link) exists at `path`.
 bool file_exists(const std::string& path);
+// The shop's default site settings, as the expected files and texts of the tests hold them.
+inline constexpr const char* kDefaultHostHu = "www.kelvor.hu";
+inline constexpr const char* kDefaultHostSk = "www.kelvor.sk";
+inline constexpr const char* kDefaultHostCz = "www.kelvor.cz";
+inline constexpr const char* kDefaultArticleBase = "https://www.kelvor.hu";
+// Whether the build was configured with those defaults (the CMake cache variables
+// TALMO_SITE_HOST_HU, TALMO_SITE_HOST_SK, TALMO_SITE_HOST_CZ and TALMO_HU_ARTICLE_BASE).
+bool built_with_default_site();
 // The shop's login as a first run writes it into config.dat.
 inline constexpr const char* kDefaultConfig = "127.0.0.1\n3306\nexprtr\nT7d3wq415M\nuj_db\n";
 // Sets `dir` up as the tool's directory in the shop: config.dat with the default login (which
@@ -122,11 +137,38 @@ struct RunResult {
   bool timed_out = false;
 };
 
+// Copies the built tool to dir/talmo_software unless it is there; returns that path.
+std::string place_tool(const std::string& dir);
+
 // Runs the built tool as dir/talmo_software (copied there unless present) with `dir` as working
 // directory, `stdin_text` as its whole input, and MYSQL_TCP_PORT pointing at the private server
 // when that runs; `environment` is applied last. Killed after 120 seconds.
 RunResult run_tool(const std::string& dir, const std::string& stdin_text,
                    const std::vector<std::string>& args = {}, const Environment& environment = {});
+
+// The built tool running in the background in `dir`, as a scheduler would start it: standard
+// input from the shell redirection `input` (e.g. "< answers.txt" or "<&-"), its outputs into
+// dir/out.txt and dir/err.txt, MYSQL_TCP_PORT pointing at the private server. Killed when the
+// object goes out of scope while it still runs.
+class BackgroundTool {
+ public:
+  BackgroundTool(const std::string& dir, const std::string& input, const Environment& environment);
+  ~BackgroundTool();
+  BackgroundTool(const BackgroundTool&) = delete;
+  BackgroundTool& operator=(const BackgroundTool&) = delete;
+
+  // Waits until standard output holds `text` (true), or the tool ended or `seconds` passed.
+  bool wait_for_output(const std::string& text, int seconds) const;
+  void send(int signal) const;
+  // The exit code (128 + signal when killed) once ended; killed after `seconds`.
+  int wait(int seconds);
+  std::string out() const;
+
+ private:
+  std::string dir_;
+  pid_t pid_ = -1;
+  std::optional<int> exit_code_;
+};
 
 // Replaces every clock reading "hh:nn:ss.z" (two figures, ":", two, ":", two, ".", one to three
 // figures) by "<time>", so outputs with elapsed times can be compared whole.
@@ -139,3 +181,11 @@ void expect_same_text(const std::string& expected, const std::string& actual,
                       const char* file = __builtin_FILE(), int line = __builtin_LINE());
 
 }  // namespace talmo::testing
+
+// Skips the calling test, with a message saying why, in a build configured with other site
+// settings: what it expects names the shop's default hosts.
+#define TALMO_NEEDS_DEFAULT_SITE()                                                             \
+  if (!::talmo::testing::built_with_default_site())                                            \
+  GTEST_SKIP() << "needs the shop's default site settings (TALMO_SITE_HOST_HU=www.kelvor.hu, " \
+                  "TALMO_SITE_HOST_SK=www.kelvor.sk, TALMO_SITE_HOST_CZ=www.kelvor.cz, "       \
+                  "TALMO_HU_ARTICLE_BASE=https://www.kelvor.hu)"
