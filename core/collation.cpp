@@ -33,10 +33,10 @@ std::optional<std::string> comparable_key(std::string_view key) {
   return folded;
 }
 
-bool is_canonical_id(std::string_view text) {
-  if (text.empty() || text.size() > 18 || !all_digits(text))
-    return false;
-  return text == "0" || text.front() != '0';
+std::optional<std::int64_t> canonical_id_value(std::string_view text) {
+  if (text.empty() || text.size() > 18 || !all_digits(text) || (text.size() > 1 && text[0] == '0'))
+    return std::nullopt;
+  return decimal_value(text);
 }
 
 std::optional<std::int64_t> digits_value(std::string_view text) {

@@ -16,10 +16,10 @@ namespace talmo {
 // printable ASCII (a control byte, a byte above 0x7E), whose comparison is left to the server.
 std::optional<std::string> comparable_key(std::string_view key);
 
-// Whether `text` is an integer id in its canonical decimal form ("0", or digits without a
-// leading zero, at most 18 of them): how ids come from the product list. An IDX of another
-// form (a quote, blanks, letters, leading zeros) is compared by the server.
-bool is_canonical_id(std::string_view text);
+// The value of an integer id in its canonical decimal form ("0", or digits without a leading
+// zero, at most 18 of them): how ids come from the product list. nullopt for an IDX of another
+// form (a quote, blanks, letters, leading zeros), which the server compares.
+std::optional<std::int64_t> canonical_id_value(std::string_view text);
 
 // The value of an id stored as text and compared with an integer column: plain decimal digits
 // (leading zeros allowed, at most 15 of them, so the server's conversion is exact). nullopt for

@@ -181,7 +181,8 @@ void Query::set_statement(Statement statement) {
   statement_ = std::move(statement);
   joined_lines_.clear();
   const std::string& text = statement_.text();
-  if (text.find_first_of("\r\n") == std::string::npos)
+  // Two single-byte searches: much faster than one search for either byte.
+  if (text.find('\r') == std::string::npos && text.find('\n') == std::string::npos)
     return;
   // Every CR, LF or CRLF ends a line; a line end at the very end starts no new line.
   joined_lines_.reserve(text.size());

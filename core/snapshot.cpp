@@ -121,7 +121,8 @@ std::optional<ResultSet> Snapshot::answer_from_tables(const Statement& statement
 
 std::optional<ResultSet> Snapshot::product_columns(const std::string* columns, std::size_t count,
                                                    const std::string& IDX) {
-  if (!is_canonical_id(IDX))
+  const std::optional<std::int64_t> id_value = canonical_id_value(IDX);
+  if (!id_value)
     return std::nullopt;
   WholeTable* products_table = table(products_, "laptop_adatbazis", "id");
   if (products_table == nullptr)
@@ -139,7 +140,7 @@ std::optional<ResultSet> Snapshot::product_columns(const std::string* columns, s
   const std::optional<std::size_t> id = products.column("id");
   if (!id)
     return std::nullopt;
-  if (const std::optional<std::size_t> row = products.row_with_id(*id, std::stoll(IDX))) {
+  if (const std::optional<std::size_t> row = products.row_with_id(*id, *id_value)) {
     ResultSet::Row& cells = result.rows.emplace_back();
     for (const std::size_t position : positions)
       cells.push_back(products.rows()[*row][position]);
@@ -148,7 +149,7 @@ std::optional<ResultSet> Snapshot::product_columns(const std::string* columns, s
 }
 
 std::optional<ResultSet> Snapshot::level_zero_categories(const std::string& IDX) {
-  if (!is_canonical_id(IDX))
+  if (!canonical_id_value(IDX))
     return std::nullopt;
   WholeTable* links_table = table(category_links_, "product_categories", "prod_cat_id");
   if (links_table == nullptr)
@@ -164,7 +165,7 @@ std::optional<ResultSet> Snapshot::level_zero_categories(const std::string& IDX)
   const auto level = categories.column("cat_category_level");
   if (!product || !linked || !cat_id || !level)
     return std::nullopt;
-  const std::optional<std::vector<std::size_t>> candidates = links.rows_with_key(*product, IDX);
+  const std::optional<std::span<const std::size_t>> candidates = links.rows_with_key(*product, IDX);
   if (!candidates)
     return std::nullopt;
   struct Joined {
@@ -213,7 +214,7 @@ std::optional<ResultSet> Snapshot::level_zero_categories(const std::string& IDX)
 std::optional<ResultSet> Snapshot::product_in_category(const std::string& IDX,
                                                        const std::string& category_id) {
   const std::optional<std::string> wanted = literal_key(category_id);
-  if (!is_canonical_id(IDX) || !wanted)
+  if (!canonical_id_value(IDX) || !wanted)
     return std::nullopt;
   WholeTable* links_table = table(category_links_, "product_categories", "prod_cat_id");
   if (links_table == nullptr)
@@ -225,7 +226,7 @@ std::optional<ResultSet> Snapshot::product_in_category(const std::string& IDX,
   const auto category = links.column("prod_cat_category_id");
   if (!id || !type || !product || !category)
     return std::nullopt;
-  const std::optional<std::vector<std::size_t>> candidates = links.rows_with_key(*product, IDX);
+  const std::optional<std::span<const std::size_t>> candidates = links.rows_with_key(*product, IDX);
   if (!candidates)
     return std::nullopt;
   ResultSet result;
@@ -244,7 +245,7 @@ std::optional<ResultSet> Snapshot::product_in_category(const std::string& IDX,
 }
 
 std::optional<ResultSet> Snapshot::product_currency(const std::string& IDX) {
-  if (!is_canonical_id(IDX))
+  if (!canonical_id_value(IDX))
     return std::nullopt;
   WholeTable* currencies_table = table(currencies_, "product_valuta", "prod_val_id");
   if (currencies_table == nullptr)
@@ -255,7 +256,7 @@ std::optional<ResultSet> Snapshot::product_currency(const std::string& IDX) {
   const auto currency = currencies.column("prod_val_valuta");
   if (!type || !product || !currency)
     return std::nullopt;
-  const std::optional<std::vector<std::size_t>> candidates =
+  const std::optional<std::span<const std::size_t>> candidates =
       currencies.rows_with_key(*product, IDX);
   if (!candidates)
     return std::nullopt;
@@ -276,7 +277,7 @@ std::optional<ResultSet> Snapshot::product_currency(const std::string& IDX) {
 
 std::optional<ResultSet> Snapshot::fixed_price(const std::string& SITE, const std::string& IDX) {
   const std::string column_name = "fix_ar_" + SITE;
-  if (!is_canonical_id(IDX) || !is_identifier(SITE))
+  if (!canonical_id_value(IDX) || !is_identifier(SITE))
     return std::nullopt;
   WholeTable* prices_table = table(fixed_prices_, "fix_arak", "fix_id");
   if (prices_table == nullptr)
@@ -287,7 +288,8 @@ std::optional<ResultSet> Snapshot::fixed_price(const std::string& SITE, const st
   const auto type = prices.column("fix_product_type_id");
   if (!price || !product || !type)
     return std::nullopt;
-  const std::optional<std::vector<std::size_t>> candidates = prices.rows_with_key(*product, IDX);
+  const std::optional<std::span<const std::size_t>> candidates =
+      prices.rows_with_key(*product, IDX);
   if (!candidates)
     return std::nullopt;
   ResultSet result;
@@ -307,7 +309,7 @@ std::optional<ResultSet> Snapshot::fixed_price(const std::string& SITE, const st
 
 std::optional<ResultSet> Snapshot::extra_texts(const std::string& IDX, const std::string& SITE) {
   const std::optional<std::string> site = literal_key(SITE);
-  if (!is_canonical_id(IDX) || !site)
+  if (!canonical_id_value(IDX) || !site)
     return std::nullopt;
   WholeTable* extras_table = table(extra_texts_, "extra_jellemzo", "ex_id");
   if (extras_table == nullptr)
@@ -319,7 +321,8 @@ std::optional<ResultSet> Snapshot::extra_texts(const std::string& IDX, const std
   const auto text = extras.column("ex_text");
   if (!type || !product || !site_column || !text)
     return std::nullopt;
-  const std::optional<std::vector<std::size_t>> candidates = extras.rows_with_key(*product, IDX);
+  const std::optional<std::span<const std::size_t>> candidates =
+      extras.rows_with_key(*product, IDX);
   if (!candidates)
     return std::nullopt;
   ResultSet result;

@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <variant>
 
 #include "core/database.h"
@@ -67,7 +68,7 @@ class Snapshot {
   WholeTable* table(TableSlot& slot, const char* name, const char* id_column);
 
   Connection& connection_;
-  std::map<std::string, Answer, std::less<>> answers_by_text_;
+  std::unordered_map<std::string, Answer> answers_by_text_;
   std::map<std::string, BuiltText, std::less<>> built_texts_;
   TableSlot products_;
   TableSlot currencies_;

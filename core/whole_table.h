@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -22,13 +23,13 @@ class WholeTable {
   const StringList& column_names() const { return rows_.column_names; }
   const std::vector<ResultSet::Row>& rows() const { return rows_.rows; }
   // The position of the column named `name` in any letter case, as the server finds columns.
-  std::optional<std::size_t> column(std::string_view name) const;
+  std::optional<std::size_t> column(const std::string& name);
 
   // The positions of the rows whose text column `column` the database finds equal to
   // `comparable` (a comparable_key), ascending. nullopt when some row of the table holds a key
   // in that column that cannot be compared with certainty.
-  std::optional<std::vector<std::size_t>> rows_with_key(std::size_t column,
-                                                        const std::string& comparable);
+  std::optional<std::span<const std::size_t>> rows_with_key(std::size_t column,
+                                                            const std::string& comparable);
   // The position of the row whose integer column `column` (unique) holds `value`, or nullopt.
   std::optional<std::size_t> row_with_id(std::size_t column, std::int64_t value);
 
@@ -36,6 +37,7 @@ class WholeTable {
   using TextIndex = std::unordered_map<std::string, std::vector<std::size_t>>;
 
   ResultSet rows_;
+  std::unordered_map<std::string, std::optional<std::size_t>> columns_by_name_;
   // Built on first use, one per column asked for; nullopt for a column with an uncertain key.
   std::unordered_map<std::size_t, std::optional<TextIndex>> text_indexes_;
   std::unordered_map<std::size_t, std::unordered_map<std::int64_t, std::size_t>> id_indexes_;

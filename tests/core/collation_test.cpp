@@ -35,25 +35,25 @@ TEST(Collation, ComparableKeysFoldCaseAndDropTrailingBlanksOnly) {
 TEST(Collation, CanonicalIdsAreHowTheIdListWritesThem) {
   const struct {
     const char* text;
-    bool canonical;
+    std::optional<std::int64_t> value;
   } cases[] = {
-      {"0", true},
-      {"7", true},
-      {"10234", true},
-      {"123456789012345678", true},
-      {"1234567890123456789", false},
-      {"", false},
-      {"07", false},
-      {"00", false},
-      {"-7", false},
-      {"+7", false},
-      {"7 ", false},
-      {" 7", false},
-      {"7'", false},
-      {"1e3", false},
+      {"0", 0},
+      {"7", 7},
+      {"10234", 10234},
+      {"123456789012345678", 123456789012345678},
+      {"1234567890123456789", std::nullopt},
+      {"", std::nullopt},
+      {"07", std::nullopt},
+      {"00", std::nullopt},
+      {"-7", std::nullopt},
+      {"+7", std::nullopt},
+      {"7 ", std::nullopt},
+      {" 7", std::nullopt},
+      {"7'", std::nullopt},
+      {"1e3", std::nullopt},
   };
   for (const auto& c : cases)
-    EXPECT_EQ(is_canonical_id(c.text), c.canonical) << c.text;
+    EXPECT_EQ(canonical_id_value(c.text), c.value) << c.text;
 }
 
 TEST(Collation, DigitsAreTheOnlyTextsReadAsNumbers) {
