@@ -21,6 +21,10 @@ void write_text(const std::string& text) {
     recording->output_ += text;
 }
 
+void write_error_line(const std::string& text) {
+  std::cerr << text << '\n' << std::flush;
+}
+
 std::optional<std::string> read_line() {
   std::string line;
   if (!std::getline(std::cin, line))

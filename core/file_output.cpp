@@ -112,10 +112,14 @@ void ReplacingFile::fail() {
 }
 
 void ReplacingFile::write_line(std::string_view line) {
+  write_bytes(line);
+  write_bytes("\n");
+}
+
+void ReplacingFile::write_bytes(std::string_view bytes) {
   if (error_ != 0)
     return;
-  buffer_.append(line);
-  buffer_ += '\n';
+  buffer_.append(bytes);
   if (buffer_.size() >= kBufferSize)
     flush_buffer();
 }

@@ -30,6 +30,8 @@ class ReplacingFile {
 
   // Appends `line` and "\n". Write errors are kept for commit().
   void write_line(std::string_view line);
+  // Appends `bytes` as they are. Write errors are kept for commit().
+  void write_bytes(std::string_view bytes);
 
   // Flushes, sets mode and owner, syncs and renames the temporary file into place. On this or any
   // earlier failure it writes the reason (no space, permission, read-only...) to standard error

@@ -4,7 +4,7 @@
 
 # Everything the build, the tests and the demo use, from Debian 12.
 TALMO_PACKAGES=(cmake g++ clang-14 pkg-config libmariadb-dev mariadb-server mariadb-client
-  libgtest-dev python3 clang-format)
+  libgtest-dev python3 clang-format libxml2-dev)
 
 say() { printf '\n== %s\n' "$*"; }
 

@@ -14,19 +14,6 @@
 namespace talmo::testing {
 namespace {
 
-mode_t mode_of(const std::string& path) {
-  struct stat info {};
-  EXPECT_EQ(::stat(path.c_str(), &info), 0) << path;
-  return info.st_mode & 07777;
-}
-
-std::size_t entries_in(const std::string& dir) {
-  std::size_t count = 0;
-  for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(dir))
-    ++count;
-  return count;
-}
-
 TEST(SaveLines, EveryLineEndsWithALineEnd) {
   TempDir dir;
   const std::string path = dir.path() + "/feed.csv";

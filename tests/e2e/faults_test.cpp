@@ -156,7 +156,8 @@ TEST_F(Faults, ToolKilledWhileSavingLeavesOldOrCompleteFeedsAndTheNextRunTidiesU
     BackgroundTool tool(dir_.path(), answered(dir_.path(), kAllYes), kOneStatementPerLookup);
     ASSERT_TRUE(tool.wait_for_output(moment, 120)) << tool.out();
     tool.send(SIGKILL);
-    EXPECT_EQ(tool.wait(30), 128 + SIGKILL);
+    const int status = tool.wait(30);  // near the end the run may finish before the signal lands
+    EXPECT_TRUE(status == 128 + SIGKILL || status == 0) << status;
     for (const Feed& feed : kFeeds) {
       const std::string text = read_file(dir_.path() + "/" + feed.file);
       if (text != std::string("yesterday's ") + feed.file + "\n")

@@ -63,4 +63,18 @@ std::string source_path(const std::string& relative) {
   return std::string(TALMO_SOURCE_DIR) + "/" + relative;
 }
 
+mode_t mode_of(const std::string& path) {
+  struct stat info {};
+  if (::stat(path.c_str(), &info) != 0)
+    throw std::runtime_error("cannot stat " + path);
+  return info.st_mode & 07777;
+}
+
+std::size_t entries_in(const std::string& dir) {
+  std::size_t count = 0;
+  for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(dir))
+    ++count;
+  return count;
+}
+
 }  // namespace talmo::testing

@@ -96,6 +96,10 @@ class TempDir {
 std::string read_file(const std::string& path);
 // Replaces the file with exactly `content`, creating missing parent directories; throws on failure.
 void write_file(const std::string& path, const std::string& content);
+// The permission bits of the file at `path` (links followed).
+mode_t mode_of(const std::string& path);
+// How many entries the directory holds.
+std::size_t entries_in(const std::string& dir);
 // Whether anything (file, directory, link) exists at `path`.
 bool file_exists(const std::string& path);
 // The shop's default site settings, as the expected files and texts of the tests hold them.

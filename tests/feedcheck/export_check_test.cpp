@@ -1,0 +1,43 @@
+// The checker over what the real export writes: the golden catalogue run for all five feeds,
+// checked and published as the shop would after each export.
+#include <gtest/gtest.h>
+
+#include "tests/feedcheck/feedcheck_support.h"
+
+namespace talmo::testing {
+namespace {
+
+TEST(CheckAfterExport, TheFiveFeedsOfARealRun) {
+  TALMO_NEEDS_DEFAULT_SITE();
+  PrivateMariaDb::instance().reset_database();
+  PrivateMariaDb::instance().run_sql_file(source_path("tests/e2e/fixtures/catalogue.sql"));
+  TempDir dir;
+  prepare_run_directory(dir.path());
+  const RunResult exported = run_tool(dir.path(), "y\ny\ny\ny\ny\n\n");
+  ASSERT_EQ(exported.exit_code, 0) << exported.out;
+
+  expect_report({dir.path() + "/export"}, "catalogue_export.txt", {{"dir", dir.path() + "/export"}},
+                1);
+
+  write_file(dir.path() + "/www/hu/talmo.xml", "an older copy\n");
+  const RunResult published =
+      run_feedcheck({dir.path() + "/export", "--publish", dir.path() + "/www", "--json"});
+  EXPECT_EQ(published.exit_code, 1);
+  for (const char* file :
+       {"hu/talmo.xml", "hu/arukereso.csv", "hu/grando.xml", "hu/vatera.csv", "sk/heureka.xml"}) {
+    SCOPED_TRACE(file);
+    EXPECT_EQ(read_file(dir.path() + "/www/" + file), read_file(dir.path() + "/export/" + file));
+  }
+  EXPECT_NE(published.out.find("\"feed\": \"talmo\", \"file\": \"hu/talmo.xml\", \"state\": "
+                               "\"checked\", \"read_problem\": null, \"items\": 8, "
+                               "\"file_problem\": null, \"problems\": {\"bad-address\": 2}, "
+                               "\"warnings\": {}, "
+                               "\"verdict\": \"published\", \"verdict_reason\": \"\", \"changes\": "
+                               "null, \"not_compared\": \"the published copy has a whole-file "
+                               "problem\"}"),
+            std::string::npos)
+      << published.out;
+}
+
+}  // namespace
+}  // namespace talmo::testing
