@@ -69,8 +69,6 @@ TEST(PriceRounding, SiteEndingsAsTheShopSeesThem) {
            {-0.4, "hu", "90"},
            {10.40, "sk", "10.9"},
            {10.5, "sk", "10.9"},   // rounds to 10, cents 50
-           {10.90, "sk", "10.9"},  // cents exactly 90 stay in the same euro
-           {10.91, "sk", "11.9"},
            {11.5, "sk", "12.9"},  // rounds to 12, cents -50
            {-1.2, "sk", "-0.1"},
            {12345.5, "cz", "12346"},
