@@ -5,6 +5,7 @@
 
 #include "app/exports.h"
 #include "app/options.h"
+#include "app/run_mode.h"
 #include "core/console.h"
 #include "core/directory_lock.h"
 #include "core/errors.h"
@@ -106,18 +107,28 @@ void TTalmo_Software::DoRun() {
 
   run.CONNECTION = std::make_unique<Connection>();
   run.QUERY = std::make_unique<Query>(*run.CONNECTION);
+  run.TRANSACTION = std::make_unique<Transaction>(*run.CONNECTION);
   try {
-    // Released in this order whatever happens: the query, then the connection.
+    // Released in this order whatever happens: the query, the transaction (ending it if an error
+    // left it open), then the connection.
     struct ReleaseDatabase {
       RunContext& run;
       ~ReleaseDatabase() {
         run.QUERY.reset();
+        run.TRANSACTION.reset();
         run.CONNECTION.reset();
       }
     } release_database{run};
     run.CONNECTION->open(run.LOGIN.IP, run.LOGIN.USERNAME, run.LOGIN.PASSWORD, run.LOGIN.DATABASE);
     ask_questions(run);
+    // All exports read one consistent catalogue. With TALMO_SNAPSHOT=off every lookup goes to
+    // the server as it comes, outside any transaction.
+    const bool from_snapshot = answers_from_snapshot();
+    if (from_snapshot)
+      run.TRANSACTION->start();
     run_chosen_exports(run);
+    if (from_snapshot)
+      run.TRANSACTION->commit();
   } catch (const TalmoError& error) {
     write_line(error.what());
     failed_ = true;

@@ -15,8 +15,9 @@ struct RunContext {
   std::string PATH;  // the executable's directory, ending in "/"; prefix of every file
   LOGININFO LOGIN;
   std::unique_ptr<Connection> CONNECTION;
-  std::unique_ptr<Query> QUERY;  // the one shared cursor handed to every lookup
-  StringList FULL_LIST;          // product ids of the export under way
+  std::unique_ptr<Transaction> TRANSACTION;  // the read-only snapshot behind the exports
+  std::unique_ptr<Query> QUERY;              // the one shared cursor handed to every lookup
+  StringList FULL_LIST;                      // product ids of the export under way
 
   // The operator's answers, in the order the questions are asked.
   bool DO_TALMO = false;

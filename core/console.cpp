@@ -3,13 +3,22 @@
 #include <iostream>
 
 namespace talmo {
+namespace {
+
+// The innermost recording under way; the tool is single-threaded.
+ConsoleRecording* current_recording = nullptr;
+
+}  // namespace
 
 void write_line(const std::string& text) {
-  std::cout << text << '\n' << std::flush;
+  write_text(text + '\n');
 }
 
 void write_text(const std::string& text) {
   std::cout << text << std::flush;
+  for (ConsoleRecording* recording = current_recording; recording != nullptr;
+       recording = recording->outer_)
+    recording->output_ += text;
 }
 
 void write_error_line(const std::string& text) {
@@ -21,6 +30,14 @@ std::optional<std::string> read_line() {
   if (!std::getline(std::cin, line))
     return std::nullopt;
   return line;
+}
+
+ConsoleRecording::ConsoleRecording() : outer_(current_recording) {
+  current_recording = this;
+}
+
+ConsoleRecording::~ConsoleRecording() {
+  current_recording = outer_;
 }
 
 }  // namespace talmo

@@ -14,4 +14,23 @@ void write_error_line(const std::string& text);
 // The next input line without its line end; nullopt at end of input.
 std::optional<std::string> read_line();
 
+// While alive, keeps a copy of everything written to the console (it is still written), so a
+// text built once can print its lines again when it is used a second time. Recordings nest;
+// an inner one's output goes to the outer ones too.
+class ConsoleRecording {
+ public:
+  ConsoleRecording();
+  ~ConsoleRecording();
+  ConsoleRecording(const ConsoleRecording&) = delete;
+  ConsoleRecording& operator=(const ConsoleRecording&) = delete;
+
+  // Everything written since this recording began, line ends included.
+  const std::string& output() const { return output_; }
+
+ private:
+  friend void write_text(const std::string& text);
+  std::string output_;
+  ConsoleRecording* outer_;
+};
+
 }  // namespace talmo

@@ -17,11 +17,19 @@ Statement product_columns(const StringList& columns, const std::string& IDX) {
 }
 
 Statement price_amounts(const std::string& IDX) {
+  std::string column_list;
+  for (const std::string& column : price_amount_columns())
+    column_list += (column_list.empty() ? "" : ", ") + column;
   return {StatementKind::price_amounts,
           {IDX},
-          "SELECT netto_darabar, uj_netto_darabar, kedvezmenyek, tobbletnyeresegek "
-          "FROM laptop_adatbazis WHERE id='" +
-              IDX + "' ORDER BY id DESC LIMIT 1;"};
+          "SELECT " + column_list + " FROM laptop_adatbazis WHERE id='" + IDX +
+              "' ORDER BY id DESC LIMIT 1;"};
+}
+
+const StringList& price_amount_columns() {
+  static const StringList columns = {"netto_darabar", "uj_netto_darabar", "kedvezmenyek",
+                                     "tobbletnyeresegek"};
+  return columns;
 }
 
 Statement translation(const std::string& word, const std::string& language) {

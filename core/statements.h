@@ -73,6 +73,8 @@ Statement product_columns(const StringList& columns, const std::string& IDX);
 // Old and new net price, discounts and extra profits of product `IDX`, newest row.
 // Parameters: IDX.
 Statement price_amounts(const std::string& IDX);
+// The columns price_amounts asks for, in its order.
+const StringList& price_amount_columns();
 
 // The newest translation of `word` into `language` (stored upper case: "HU", "SK", "CZ").
 // Parameters: word, language.

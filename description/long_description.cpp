@@ -1,5 +1,8 @@
 #include "description/long_description.h"
 
+#include "core/console.h"
+#include "core/snapshot.h"
+
 #include "description/component_sections.h"
 #include "description/description_frame.h"
 #include "description/features_section.h"
@@ -31,7 +34,23 @@ std::string GENERATE_PRODUCT_DESC(Query& VAR_QUERY, const std::string& IDX,
 
 std::string GENERATE_ARUKERESO_DESCRIPTION(Query& VAR_QUERY, const std::string& IDX,
                                            const std::string& SITE) {
-  return marketplace_description(GENERATE_PRODUCT_DESC(VAR_QUERY, IDX, SITE), SITE);
+  Snapshot* snapshot = VAR_QUERY.connection().snapshot();
+  if (snapshot == nullptr)
+    return marketplace_description(GENERATE_PRODUCT_DESC(VAR_QUERY, IDX, SITE), SITE);
+  // Árukereső, Grando and Vatera carry the same text: inside the snapshot it is built once, and
+  // a later feed prints the lines its building printed and leaves the cursor on the same
+  // statement, as if it had been built again.
+  const std::string key = "marketplace description\n" + SITE + "\n" + IDX;
+  if (const Snapshot::BuiltText* built = snapshot->recall(key)) {
+    if (!built->console.empty())
+      write_text(built->console);
+    VAR_QUERY.set_statement(built->last_statement);
+    return built->text;
+  }
+  ConsoleRecording recording;
+  std::string text = marketplace_description(GENERATE_PRODUCT_DESC(VAR_QUERY, IDX, SITE), SITE);
+  snapshot->remember(key, {text, recording.output(), VAR_QUERY.statement()});
+  return text;
 }
 
 }  // namespace talmo

@@ -648,13 +648,184 @@ def sorszam_for(dice, index, count):
     return str(number)
 
 
-def generate(out, count, seed):
+# Hostile rows: what years of hand edits leave in a shop's tables. Texts that break the tool's
+# statements (a quote), line ends inside values, empty, NULL and malformed values, keys with
+# trailing blanks or in other letter case (equal to the plain key for the database), side rows
+# missing, doubled or stored out of id order, and more unpublished and clearance items.
+QUOTED_MAKERS = ["D'Arcy", "O'Neill Computers"]
+QUOTED_NAMES = ["'Limited' Edition", "Gamer's Choice"]
+ODD_PRICES = ["", None, "n/a", "-120", "1.234.567,8", "  ", "12e3"]
+ODD_AMOUNTS = ["x|y|z", "|||", None, "5000|abc|0", "1 000|2,5|x"]
+ODD_COMPONENTS = ["", None, "|||", "^^^", "1|2", "|", "1|1|\r|1"]
+ODD_STORED_TEXTS = ["Alumínium ház\r\nDolby hangrendszer", "Táska\rEgér", "Gamer's Choice",
+                    "  Táska  ", "TÁSKA", None, ""]
+ODD_WARRANTIES = ["24 hónap\r", None, "", "O'Reilly garancia", "24 HÓNAP", "24 hónap "]
+ODD_EXTRA_TEXTS = ["Első sor\r\nmásodik sor", "Csak CR\rután", None, "", "Idézőjel: 'itt'",
+                   "  két  szóköz  "]
+
+
+def blank_padded(dice, key):
+    """The key as the database still finds it: trailing blanks or, for letters, another case."""
+    return dice.pick([key + " ", key + "  ", key.upper(), key.capitalize(), key])
+
+
+def make_hostile(dice, tables, category_ids):
+    """Spoils the generated rows in place; side tables get explicit ids in an order of their own."""
+    product_columns, products = tables["laptop_adatbazis"]
+    at = {column: i for i, column in enumerate(product_columns)}
+    spoiled = []
+    for values in products:
+        row = list(values)
+
+        def maybe(column, probability, choices):
+            if dice.chance(probability):
+                row[at[column]] = dice.pick(choices)
+
+        maybe("published", 0.15, [0, 0, 0, None])
+        if dice.chance(0.08):
+            row[at["sorszam"]] = dice.pick(["xAkC", "AKC-", "akc ", "Akc"]) + str(row[at["id"]])
+        maybe("sorszam", 0.02, [None, ""])
+        maybe("gyarto", 0.1, QUOTED_MAKERS + ["", None, "  Asus  ", "asus", "HP\r"])
+        maybe("nev", 0.08, [(row[at["nev"]] or "") + " " + dice.pick(QUOTED_NAMES), None, "",
+                             "Aspire\r\n5750G", "Vaio\rDuo"])
+        maybe("tipusmegnevezes", 0.05, ["Tecra 'R950'", None, ""])
+        maybe("tipus", 0.04, [None, "", "X'501"])
+        maybe("product_number", 0.04, [None, "", "NX.ABC\r12", "'quoted'"])
+        maybe("uj_netto_darabar", 0.1, ODD_PRICES)
+        maybe("netto_darabar", 0.1, ODD_PRICES)
+        maybe("kedvezmenyek", 0.08, ODD_AMOUNTS)
+        maybe("tobbletnyeresegek", 0.08, ODD_AMOUNTS)
+        for column in ["processzor", "memoria", "kijelzo", "merevlemez", "grafikus_kartya",
+                       "optikai_meghajto", "billentyuzet", "wifi", "usb", "hdmi", "vga",
+                       "webkamera", "operacios_rendszer", "akkumulator"]:
+            maybe(column, 0.03, ODD_COMPONENTS)
+        maybe("kulonlegessegek", 0.08, ODD_STORED_TEXTS)
+        maybe("kiegeszitok", 0.08, ODD_STORED_TEXTS)
+        maybe("extra_mezo", 0.03, ["Idézőjel 'benne'", None, "sor\r\nvég"])
+        maybe("garancia", 0.08, ODD_WARRANTIES)
+        maybe("status", 0.04, [None, "", "Raktáron\r", "Külső 'B' raktár"])
+        maybe("nagyraktar", 0.05, [None, "", "IPON\r\n", "ingram micro "])
+        if not dice.chance(0.02):  # the rest lose their row, their side rows stay behind
+            spoiled.append(tuple(row))
+    products[:] = spoiled
+
+    def product_key(pid):
+        return blank_padded(dice, pid) if dice.chance(0.15) else pid
+
+    def type_key():
+        return dice.pick(["0 ", "0  "]) if dice.chance(0.1) else "0"
+
+    _, valuta = tables["product_valuta"]
+    valuta[:] = [(type_key(), product_key(pid), dice.pick([currency, currency.lower()])
+                  if dice.chance(0.05) else currency)
+                 for type_id, pid, currency in valuta if not dice.chance(0.05)]
+
+    columns, fixes = tables["fix_arak"]
+    spoiled = []
+    for pid, type_id, hu, sk, cz in fixes:
+        if type_id == "0" and dice.chance(0.15):  # an older price typed again by hand
+            spoiled.append((pid, type_id, dice.pick(["159 990", "0", None, "abc"]), "0", "0"))
+        hu = dice.pick(["abc", None, " 99 990 ", hu]) if dice.chance(0.05) else hu
+        spoiled.append((product_key(pid), type_key() if type_id == "0" else type_id, hu, sk, cz))
+    # The newest row is the one with the highest id, not the one inserted last: ids are handed
+    # out so that a product's doubled prices stand in the table newest first.
+    tables["fix_arak"] = (["fix_id"] + columns, descending_ids(spoiled, key=lambda r: r[0]))
+
+    _, links = tables["product_categories"]
+    spoiled = []
+    for type_id, pid, cat in links:
+        if dice.chance(0.03):
+            continue
+        if dice.chance(0.03):
+            cat = "0" + cat  # the same category to a numeric join, another to a text compare
+        spoiled.append((type_key(), product_key(pid), cat))
+        if dice.chance(0.02):
+            spoiled.append(("0", pid, cat))  # filed twice under the same category
+    ultrabook = str(category_ids[ULTRABOOK])
+    spoiled += [("0", "99999" + str(i), ultrabook) for i in range(3)]  # links without products
+    links[:] = spoiled
+
+    columns, extras = tables["extra_jellemzo"]
+    spoiled = []
+    pids = sorted({pid for _, pid, _, _ in extras}, key=int)
+    for pid in pids:
+        for site in ("hu", "sk"):
+            for number in range(dice.between(0, 4)):
+                text = dice.pick(EXTRA_INFO)[0 if site == "hu" else 1] + " #" + str(number)
+                if dice.chance(0.1):
+                    text = dice.pick(ODD_EXTRA_TEXTS)
+                spoiled.append((dice.pick(["0", "0", "1"]) if dice.chance(0.05) else type_key(),
+                                product_key(pid), blank_padded(dice, site), text))
+    spoiled += [("0", "88888", "hu", "Termék nélküli sor")]
+    tables["extra_jellemzo"] = (["ex_id"] + columns, shuffled_ids(dice, spoiled, key=lambda r: r[1]))
+
+    # Half the seeds hold one key the tool cannot compare as the database does: an accented site
+    # code (equal to the plain one for the database) or a product kind's id with a blank after it
+    # (equal to the number for the database).
+    if dice.chance(0.5):
+        columns, rows = tables["extra_jellemzo"]
+        pid = pids[len(pids) // 2] if pids else "1"
+        rows.append((max(r[0] for r in rows) + 1 if rows else 1, "0", pid, "hú",
+                     "Ékezetes kulcs"))
+    if dice.chance(0.5):
+        kinds = {str(category_ids[kind]) for kind in (LAPTOP, TABLET, AIO)}
+        filed = [i for i, (_, _, cat) in enumerate(links) if cat in kinds]
+        if filed:
+            type_id, pid, cat = links[filed[len(filed) // 2]]
+            links[filed[len(filed) // 2]] = (type_id, pid, cat + " ")
+
+
+def descending_ids(rows, key):
+    """Each row prefixed with an id; rows of one key get ids falling in insertion order."""
+    result = []
+    groups = {}
+    for row in rows:
+        groups.setdefault(key(row).strip().lower(), []).append(row)
+    next_id = 1
+    for group in groups.values():
+        for offset, row in enumerate(group):
+            result.append((next_id + len(group) - 1 - offset,) + tuple(row))
+        next_id += len(group)
+    return result
+
+
+def shuffled_ids(dice, rows, key):
+    """Each row prefixed with an id; the ids of one key's rows are shuffled among them."""
+    result = []
+    groups = {}
+    for row in rows:
+        groups.setdefault(key(row).strip().lower(), []).append(row)
+    next_id = 1
+    for group in groups.values():
+        ids = list(range(next_id, next_id + len(group)))
+        for i in range(len(ids) - 1, 0, -1):
+            j = dice.between(0, i)
+            ids[i], ids[j] = ids[j], ids[i]
+        result += [(ids[i],) + tuple(row) for i, row in enumerate(group)]
+        next_id += len(group)
+    return result
+
+
+def hostile_translations(dice, rows):
+    """Translation rows with gaps (a word missing for a language) and late duplicates."""
+    kept = [row for row in rows if not (row[1] == "SK" and dice.chance(0.04))]
+    kept += [(hu.upper(), language, text + " (új)") for hu, language, text in rows
+             if dice.chance(0.02)]
+    kept += [("24 hónap\r", "HU", "24 hónap"), ("Gamer's Choice", "SK", "Gamer's Choice")]
+    return kept
+
+
+def generate(out, count, seed, hostile=False):
     dice = Dice(seed)
-    out.write("-- Sample shop catalogue: %d products, seed %d.\n" % (count, seed))
+    out.write("-- Sample shop catalogue: %d products, seed %d%s.\n"
+              % (count, seed, ", hostile rows" if hostile else ""))
     out.write("SET NAMES utf8mb4;\nSTART TRANSACTION;\n")
 
+    translations = translation_rows()
+    if hostile:
+        translations = hostile_translations(Dice(seed * 7919 + 3), translations)
     write_inserts(out, "laptop_adatbazis_forditasok", ["szocikk", "language", "forditas"],
-                  translation_rows())
+                  translations)
     write_inserts(out, "taxes", ["tax_country", "tax_value"],
                   [("hu", "25"), ("sk", "19"), ("hu", "27"), ("sk", "20"), ("cz", "21")])
     write_inserts(out, "exchange_rates", ["er_from", "er_to", "er_value"], [
@@ -715,15 +886,21 @@ def generate(out, count, seed):
                 extras.append(("0", pid, "hu", hu_text))
                 extras.append(("0", pid, "sk", sk_text))
 
-    write_inserts(out, "laptop_adatbazis", PRODUCT_COLUMNS, products)
-    write_inserts(out, "product_valuta",
-                  ["prod_val_product_type_id", "prod_val_product_id", "prod_val_valuta"], valuta)
-    write_inserts(out, "fix_arak", ["fix_product_id", "fix_product_type_id", "fix_ar_hu",
-                                    "fix_ar_sk", "fix_ar_cz"], fixes)
-    write_inserts(out, "product_categories",
-                  ["prod_cat_type_id", "prod_cat_product_id", "prod_cat_category_id"], links)
-    write_inserts(out, "extra_jellemzo", ["ex_product_type_id", "ex_product_id", "ex_site",
-                                          "ex_text"], extras)
+    tables = {
+        "laptop_adatbazis": (PRODUCT_COLUMNS, products),
+        "product_valuta": (["prod_val_product_type_id", "prod_val_product_id",
+                            "prod_val_valuta"], valuta),
+        "fix_arak": (["fix_product_id", "fix_product_type_id", "fix_ar_hu", "fix_ar_sk",
+                      "fix_ar_cz"], fixes),
+        "product_categories": (["prod_cat_type_id", "prod_cat_product_id",
+                                "prod_cat_category_id"], links),
+        "extra_jellemzo": (["ex_product_type_id", "ex_product_id", "ex_site", "ex_text"], extras),
+    }
+    if hostile:
+        # A dice of its own, so the ordinary rows above are the same with and without --hostile.
+        make_hostile(Dice(seed * 7919 + 17), tables, category_ids)
+    for table, (columns, rows) in tables.items():
+        write_inserts(out, table, columns, rows)
     out.write("COMMIT;\n")
 
 
@@ -747,14 +924,19 @@ def main(argv=None):
                         "(default %d)" % DEFAULT_SEED)
     parser.add_argument("-o", "--output", metavar="FILE",
                         help="write to FILE instead of standard output")
+    parser.add_argument("--hostile", action="store_true",
+                        help="spoil the rows as years of hand edits do: quotes in makers and "
+                        "names, line ends, empty, NULL and malformed values, side-table keys with "
+                        "trailing blanks or in other letter case, missing, doubled and "
+                        "out-of-order side rows, more unpublished and clearance items")
     args = parser.parse_args(argv)
     if args.output:
         with open(args.output, "w", encoding="utf-8", newline="\n") as out:
-            generate(out, args.products, args.seed)
+            generate(out, args.products, args.seed, args.hostile)
     else:
         sys.stdout.reconfigure(encoding="utf-8", newline="\n")
         try:
-            generate(sys.stdout, args.products, args.seed)
+            generate(sys.stdout, args.products, args.seed, args.hostile)
             sys.stdout.flush()
         except BrokenPipeError:  # the reader stopped early (head, cmp): not our error
             sys.stdout = None

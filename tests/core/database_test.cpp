@@ -66,6 +66,31 @@ TEST_F(Database, TextsNullsAndFlagsReadBackUnchanged) {
   }
 }
 
+TEST_F(Database, LineEndsInAStatementReachTheServerAsLineFeeds) {
+  const struct {
+    std::string text, value, shown;
+  } cases[] = {
+      {"SELECT 'ab' AS v;", "ab", "SELECT 'ab' AS v;\n"},
+      {"SELECT 'a\rb' AS v;", "a\nb", "SELECT 'a\nb' AS v;\n"},
+      {"SELECT 'a\r\nb' AS v;", "a\nb", "SELECT 'a\nb' AS v;\n"},
+      {"SELECT 'a\n\rb' AS v;", "a\n\nb", "SELECT 'a\n\nb' AS v;\n"},
+      // Empty lines in front are not sent; a line end at the end starts no new line.
+      {"\r\nSELECT 'x\r' AS v;\n", "x\n", "\nSELECT 'x\n' AS v;\n"},
+  };
+  // Sent as they come, and from inside a snapshot, which sends a statement once.
+  Transaction transaction(db_.connection);
+  for (const bool in_snapshot : {false, true}) {
+    if (in_snapshot)
+      transaction.start();
+    for (const auto& c : cases) {
+      db_.query.set_statement(Statement(StatementKind::unlisted, {}, c.text));
+      EXPECT_EQ(db_.query.sql_text(), c.shown) << c.text;
+      db_.query.open();
+      EXPECT_EQ(db_.query.field_text("v"), c.value) << c.text;
+    }
+  }
+}
+
 TEST_F(Database, RefusedLoginIsNamedFromLocalhost) {
   Connection connection;
   try {
