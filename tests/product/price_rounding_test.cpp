@@ -68,7 +68,7 @@ TEST(PriceRounding, SiteEndingsAsTheShopSeesThem) {
            {9.5, "hu", "90"},  // 10 (ties to even) keeps the tens place 1
            {-0.4, "hu", "90"},
            {10.40, "sk", "10.9"},
-           {10.5, "sk", "10.9"},   // rounds to 10, cents 50
+           {10.5, "sk", "10.9"},  // rounds to 10, cents 50
            {11.5, "sk", "12.9"},  // rounds to 12, cents -50
            {-1.2, "sk", "-0.1"},
            {12345.5, "cz", "12346"},
