@@ -3,12 +3,6 @@
 #include <iostream>
 
 namespace talmo {
-namespace {
-
-// The innermost recording under way; the tool is single-threaded.
-ConsoleRecording* current_recording = nullptr;
-
-}  // namespace
 
 void write_line(const std::string& text) {
   write_text(text + '\n');
@@ -16,9 +10,6 @@ void write_line(const std::string& text) {
 
 void write_text(const std::string& text) {
   std::cout << text << std::flush;
-  for (ConsoleRecording* recording = current_recording; recording != nullptr;
-       recording = recording->outer_)
-    recording->output_ += text;
 }
 
 void write_error_line(const std::string& text) {
@@ -32,12 +23,24 @@ std::optional<std::string> read_line() {
   return line;
 }
 
-ConsoleRecording::ConsoleRecording() : outer_(current_recording) {
-  current_recording = this;
+ConsoleRecording::ConsoleRecording() : previous_(std::cout.rdbuf()), buffer_(previous_, output_) {
+  std::cout.rdbuf(&buffer_);
 }
 
 ConsoleRecording::~ConsoleRecording() {
-  current_recording = outer_;
+  std::cout.rdbuf(previous_);
+}
+
+ConsoleRecording::CopyingBuffer::int_type ConsoleRecording::CopyingBuffer::overflow(int_type c) {
+  if (traits_type::eq_int_type(c, traits_type::eof()))
+    return traits_type::not_eof(c);
+  copy_ += traits_type::to_char_type(c);
+  return next_->sputc(traits_type::to_char_type(c));
+}
+
+std::streamsize ConsoleRecording::CopyingBuffer::xsputn(const char* text, std::streamsize count) {
+  copy_.append(text, static_cast<std::size_t>(count));
+  return next_->sputn(text, count);
 }
 
 }  // namespace talmo

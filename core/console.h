@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <streambuf>
 #include <string>
 
 namespace talmo {
@@ -28,9 +29,24 @@ class ConsoleRecording {
   const std::string& output() const { return output_; }
 
  private:
-  friend void write_text(const std::string& text);
+  // Passes every byte on to the console's previous buffer and keeps a copy.
+  class CopyingBuffer : public std::streambuf {
+   public:
+    CopyingBuffer(std::streambuf* next, std::string& copy) : next_(next), copy_(copy) {}
+
+   protected:
+    int_type overflow(int_type c) override;
+    std::streamsize xsputn(const char* text, std::streamsize count) override;
+    int sync() override { return next_->pubsync(); }
+
+   private:
+    std::streambuf* next_;
+    std::string& copy_;
+  };
+
   std::string output_;
-  ConsoleRecording* outer_;
+  std::streambuf* previous_;
+  CopyingBuffer buffer_;
 };
 
 }  // namespace talmo
