@@ -1,9 +1,8 @@
 #include "core/file_input.h"
 
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
-#include <cerrno>
+
+#include "core/file_reader.h"
 
 namespace talmo {
 
@@ -15,24 +14,17 @@ PathFacts path_facts(const std::string& path) {
 }
 
 std::optional<std::string> read_whole_file(const std::string& path) {
-  const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-  if (fd < 0)
+  FileReader reader(path);
+  if (!reader.is_open())
     return std::nullopt;
   std::string content;
   char buffer[4096];
-  for (;;) {
-    const ssize_t got = ::read(fd, buffer, sizeof buffer);
-    if (got < 0 && errno == EINTR)
-      continue;
-    if (got < 0) {
-      ::close(fd);
-      return std::nullopt;
-    }
-    if (got == 0)
-      break;
-    content.append(buffer, static_cast<std::size_t>(got));
+  try {
+    for (std::size_t got; (got = reader.read(buffer, sizeof buffer)) > 0;)
+      content.append(buffer, got);
+  } catch (const FileReadError&) {
+    return std::nullopt;
   }
-  ::close(fd);
   return content;
 }
 
