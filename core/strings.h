@@ -36,7 +36,8 @@ std::string item_or_empty(const StringList& list, std::size_t index);
 // Anything else (blanks, empty text, out of range) raises ConversionError.
 std::int32_t to_integer(std::string_view text);
 // A whole text read as a number: optional sign, digits, optionally "." and at least one digit,
-// optionally an exponent. "12." and ".5" raise ConversionError, as does anything else.
+// optionally an exponent. "12." and ".5" raise ConversionError, as does anything else and a value
+// beyond the double range ("1e400"); a value too small reads as the nearest double ("1e-400" is 0).
 double to_number(std::string_view text);
 
 }  // namespace talmo

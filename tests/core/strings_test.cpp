@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <string>
+#include <vector>
+
 #include "core/errors.h"
 
 namespace talmo {
@@ -59,11 +63,29 @@ TEST(ToInteger, AcceptsSignAndDigitsOnly) {
 }
 
 TEST(ToNumber, AcceptsDecimalPointAndExponent) {
-  EXPECT_DOUBLE_EQ(to_number("1.5"), 1.5);
-  EXPECT_DOUBLE_EQ(to_number("-12"), -12);
-  EXPECT_DOUBLE_EQ(to_number("1e3"), 1000);
-  EXPECT_DOUBLE_EQ(to_number("2.5E-1"), 0.25);
-  for (const std::string bad : {"", "12.", ".5", "1,5", "1 000", "e5", "1e", "abc", "0x10"}) {
+  struct Case {
+    std::string text;
+    double value;
+  };
+  for (const Case& c : std::vector<Case>{
+           {"1.5", 1.5},
+           {"-12", -12},
+           {"+7", 7},
+           {"1e3", 1000},
+           {"2.5E-1", 0.25},
+           {"1.7976931348623157e308", 1.7976931348623157e308},
+           // Too small for a double: the nearest one, never a refusal.
+           {"1e-400", 0},
+           {"-1e-400", 0},
+           {"0.5e-323", 4.9406564584124654e-324},
+           {"4.9e-324", 4.9406564584124654e-324},
+           {"2.2250738585072009e-308", 2.2250738585072009e-308},
+       }) {
+    EXPECT_EQ(to_number(c.text), c.value) << c.text;
+  }
+  EXPECT_TRUE(std::signbit(to_number("-1e-400")));
+  for (const std::string bad : {"", "12.", ".5", "1,5", "1 000", "e5", "1e", "abc", "0x10", "inf",
+                                "nan", " 1", "1e400", "-1e400", "1.8e308"}) {
     EXPECT_THROW(to_number(bad), ConversionError) << bad;
   }
 }

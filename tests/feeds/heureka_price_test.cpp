@@ -22,6 +22,12 @@ TEST(HeurekaPriceDecimals, WritesCentsWithADecimalComma) {
            {"1.23.4", "1,23,4", "only the part after the first point counts; every point turns"},
            {"-0.5", "-0,50", "the sign is kept"},
            {"0", "00", "a one-character price without a point gets the zero as well"},
+           {"€", "€0", "one character is one letter, however many bytes it takes"},
+           {"12.€", "12,€0", "a letter of several bytes after the point is one figure"},
+           {"12.€€", "12,€€", "two such letters are two figures"},
+           {"Á", "Á0", "a two-byte letter alone"},
+           {"ab", "ab", "two one-byte letters"},
+           {"💶", "💶0", "a four-byte letter alone"},
            {"", "", "nothing to write"},
        }) {
     EXPECT_EQ(heureka_price_decimals(c.price), c.written) << c.why;
