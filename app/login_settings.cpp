@@ -35,16 +35,17 @@ LOGININFO default_login() {
   return LOGININFO{site_config::kDefaultDatabaseHost, "3306", "exprtr", "T7d3wq415M", "uj_db"};
 }
 
+LOGININFO parse_login_settings(const std::string& CONTENT) {
+  const StringList lines = split_lines(CONTENT);
+  return LOGININFO{item_or_empty(lines, 0), item_or_empty(lines, 1), item_or_empty(lines, 2),
+                   item_or_empty(lines, 3), item_or_empty(lines, 4)};
+}
+
 bool GETLOGININFO(const std::string& PATH, LOGININFO& LOGIN) {
   const std::optional<std::string> content = read_whole_file(PATH + kSettingsFile);
   if (!content)
     return false;
-  const StringList lines = split_lines(*content);
-  LOGIN.IP = item_or_empty(lines, 0);
-  LOGIN.PORT = item_or_empty(lines, 1);
-  LOGIN.USERNAME = item_or_empty(lines, 2);
-  LOGIN.PASSWORD = item_or_empty(lines, 3);
-  LOGIN.DATABASE = item_or_empty(lines, 4);
+  LOGIN = parse_login_settings(*content);
   return true;
 }
 

@@ -16,6 +16,11 @@ struct LOGININFO {
 // The login a first run writes: the build's database host, port 3306, the shop's export user.
 LOGININFO default_login();
 
+// The login held in the text of a config.dat: its first five lines in field order, each line
+// ending in "\n" or "\r\n" (a last line may lack it). Missing lines give empty fields; lines
+// after the fifth are ignored.
+LOGININFO parse_login_settings(const std::string& CONTENT);
+
 // Reads PATH + "config.dat" into LOGIN. Missing lines read as empty text. Returns false, without a
 // message, when the file cannot be opened or read.
 bool GETLOGININFO(const std::string& PATH, LOGININFO& LOGIN);
