@@ -1,6 +1,7 @@
 #include "core/strings.h"
 
 #include <cerrno>
+#include <cmath>
 #include <cstdlib>
 #include <limits>
 
@@ -154,7 +155,9 @@ std::optional<double> parse_number(std::string_view text) {
     const std::string copy(text);
     errno = 0;
     const double value = std::strtod(copy.c_str(), nullptr);
-    if (errno != ERANGE)
+    // A value too small for a double reads as the nearest one (0 or a subnormal); only one
+    // beyond the double range is refused.
+    if (errno != ERANGE || !std::isinf(value))
       return value;
   }
   return std::nullopt;

@@ -37,7 +37,8 @@ std::string item_or_empty(const StringList& list, std::size_t index);
 // Anything else (blanks, empty text, out of range) gives no value.
 std::optional<std::int32_t> parse_integer(std::string_view text);
 // A whole text read as a number: optional sign, digits, optionally "." and at least one digit,
-// optionally an exponent. "12." and ".5" give no value, as does anything else.
+// optionally an exponent. "12." and ".5" give no value, as does anything else and a value beyond
+// the double range ("1e400"); a value too small reads as the nearest double ("1e-400" is 0).
 std::optional<double> parse_number(std::string_view text);
 
 // parse_integer and parse_number for texts that must be numbers: no value raises

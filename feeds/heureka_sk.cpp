@@ -1,6 +1,7 @@
 #include "feeds/heureka_sk.h"
 
 #include <algorithm>
+#include <string_view>
 
 #include "core/console.h"
 #include "core/lookup.h"
@@ -30,6 +31,14 @@ const StringList kCdataElements = {
     "IMGURL",  "IMGURL_ALTERNATIVE", "CATEGORYTEXT"};
 // PARAM and DELIVERY carry ready-made XML, so nothing is escaped or wrapped.
 const StringList kPlainElements = {"PRICE_VAT", "PARAM", "MANUFACTURER", "DELIVERY", "EAN"};
+
+// Characters of a UTF-8 text: every byte but the continuation bytes (10xxxxxx) starts one, so a
+// fixed price typed as "€" counts as one character, as the shop sees it.
+std::size_t character_count(std::string_view text) {
+  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) {
+    return (static_cast<unsigned char>(c) & 0xC0) != 0x80;
+  }));
+}
 
 bool listed(const StringList& list, const std::string& name) {
   return std::find(list.begin(), list.end(), name) != list.end();
@@ -139,8 +148,10 @@ std::string GENERATE_HEUREKASK_VAT(Query&, const std::string&, const std::string
 
 std::string heureka_price_decimals(const std::string& price) {
   const std::size_t point = price.find('.');
-  const std::size_t decimals = point == std::string::npos ? price.size() : price.size() - point - 1;
-  return replace_all(decimals == 1 ? price + "0" : price, ".", ",");
+  const std::string_view decimals = point == std::string::npos
+                                        ? std::string_view(price)
+                                        : std::string_view(price).substr(point + 1);
+  return replace_all(character_count(decimals) == 1 ? price + "0" : price, ".", ",");
 }
 
 std::string GENERATE_HEUREKASK_LINE(Query& VAR_QUERY, const std::string& IDX,

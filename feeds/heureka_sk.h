@@ -46,9 +46,10 @@ std::string GENERATE_HEUREKASK_EAN(Query& VAR_QUERY, const std::string& IDX,
 std::string GENERATE_HEUREKASK_VAT(Query& VAR_QUERY, const std::string& IDX,
                                    const std::string& SITE);
 
-// A price text the way Heureka.sk reads it: a single figure after the point gets a "0" after it,
-// then every "." becomes "," ("499.9" gives "499,90", "1200" stays). A one-character price
-// without a point gets the "0" as well ("9" gives "90"): the rule is kept as it always ran.
+// A price text the way Heureka.sk reads it: a single character (UTF-8, not byte) after the point
+// gets a "0" after it, then every "." becomes "," ("499.9" gives "499,90", "1200" stays). A
+// one-character price without a point gets the "0" as well ("9" gives "90", a fixed price "€"
+// gives "€0"): the rule is kept as it always ran.
 std::string heureka_price_decimals(const std::string& price);
 
 // Appends one product's row of fourteen fields to HEUREKASK, the price with its decimal comma.

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <optional>
 #include <string>
 #include <vector>
@@ -109,6 +110,15 @@ TEST(Numbers, AcceptDecimalPointAndExponent) {
            {"nan", std::nullopt},
            {"-", std::nullopt},
            {"1e999", std::nullopt},
+           {"-1e400", std::nullopt},
+           {"1.8e308", std::nullopt},
+           {"1.7976931348623157e308", 1.7976931348623157e308},
+           // Too small for a double: the nearest one, never a refusal.
+           {"1e-400", 0},
+           {"-1e-400", 0},
+           {"0.5e-323", 4.9406564584124654e-324},
+           {"4.9e-324", 4.9406564584124654e-324},
+           {"2.2250738585072009e-308", 2.2250738585072009e-308},
        }) {
     EXPECT_EQ(parse_number(c.text), c.value) << c.text;
     if (c.value)
@@ -116,6 +126,7 @@ TEST(Numbers, AcceptDecimalPointAndExponent) {
     else
       EXPECT_THROW(to_number(c.text), ConversionError) << c.text;
   }
+  EXPECT_TRUE(std::signbit(to_number("-1e-400")));
 }
 
 }  // namespace

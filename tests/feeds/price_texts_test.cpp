@@ -58,6 +58,13 @@ TEST(HeurekaPriceDecimals, WritesCentsWithADecimalComma) {
            {"1200.", "1200,"},    // nothing after the point: no zero
            {"1.23.4", "1,23,4"},  // only the part after the first point counts
            {"0", "00"},           // one character without a point gets the zero as well
+           // One character is one letter, however many bytes it takes.
+           {"€", "€0"},
+           {"12.€", "12,€0"},
+           {"12.€€", "12,€€"},
+           {"Á", "Á0"},
+           {"ab", "ab"},
+           {"💶", "💶0"},
        }) {
     EXPECT_EQ(heureka_price_decimals(c.price), c.written) << c.price;
   }

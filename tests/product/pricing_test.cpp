@@ -44,7 +44,9 @@ class Pricing : public ::testing::Test {
         "(2, 1, '400', '500', '', NULL, 'Notebooksbilliger.de'), "
         "(3, 1, '100', '100,50', '5000', NULL, 'ASBIS'), "
         "(4, 1, '1000', '1000', '0|0|0', '0|0|0', 'Ismeretlen bolt'), "
-        "(5, 1, '1000', 'n/a', '300|0|0', '0|0|0', 'ASBIS');");
+        "(5, 1, '1000', 'n/a', '300|0|0', '0|0|0', 'ASBIS'), "
+        "(6, 1, '1000', '1000', '1e-400|4.9e-324|0', '0|0|0', 'ASBIS'), "
+        "(7, 1, '1000', '1e-400', '0|0|0', '0|0|0', 'ASBIS');");
     // Product 2: the newest row of type 0 counts; the type-1 row is another kind of product.
     db.run_sql(
         "INSERT INTO fix_arak (fix_id, fix_product_id, fix_product_type_id, fix_ar_hu, fix_ar_sk, "
@@ -85,6 +87,15 @@ TEST_F(Pricing, ComputedAndFixedPrices) {
            {"3", "sk", true, false, "139.9"},
            // 100.5 x 1.27 x 310 x 1.12 = 44314.872; - 5000 = 39314.872 -> 39315 -> 39390.
            {"3", "hu", true, false, "39390"},
+           // Amounts too small for a double read as the nearest one, never as a failure:
+           // 1000 x 1.27 x 310 x 1.12 (SK->HU) = 440944; - 0 -> 440990.
+           {"6", "hu", true, false, "440990"},
+           // 1000 x 1.2 x 1 x 1.15 (SK->SK) = 1380; - 4.9e-324 -> 1380.9.
+           {"6", "sk", true, false, "1380.9"},
+           // A net price of 1e-400 is 0 -> 90.
+           {"7", "hu", true, false, "90"},
+           // No laptop_adatbazis row: 0 before the ending.
+           {"99", "hu", true, false, "90"},
        }) {
     EXPECT_EQ(GENERATE_PRICE_WITH_TAX(db_.query, c.id, c.site, c.check_fix_ar, c.use_old_price),
               c.price)
