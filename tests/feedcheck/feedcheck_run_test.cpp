@@ -1,10 +1,9 @@
-// The checker run as the shop runs it, over hand-made feeds: whole reports, exit statuses, the
-// limit of twenty listed problems, and a check that writes nothing.
+// The checker run as the shop runs it, over hand-made feed sets: whole reports, usage errors and
+// exit statuses, and a check that writes nothing.
 #include <sys/stat.h>
 
 #include <filesystem>
 #include <map>
-#include <optional>
 
 #include <gtest/gtest.h>
 
@@ -13,7 +12,14 @@
 namespace talmo::testing {
 namespace {
 
+// Each feed set under tests/feedcheck/feeds/ plants one case of every rule it is named for (an
+// item rule per item, a whole-file rule per file). The reports under tests/feedcheck/expected/
+// were captured from the checker once, then read line by line by a second engineer against the
+// feed checker's rules in the README and the manual page: kind, item key, field, what and text of
+// every problem, the twenty listed per kind, the price moves against the previous run's price,
+// the summary and the exit status.
 TEST(FeedcheckReport, WholeReportsOfHandMadeFeeds) {
+  const std::string previous = feeds_path("previous");
   const struct {
     const char* feeds;
     std::vector<std::string> options;
@@ -23,116 +29,75 @@ TEST(FeedcheckReport, WholeReportsOfHandMadeFeeds) {
       {"good", {}, "good.txt", 0},
       {"good", {"--json"}, "good.json", 0},
       {"item_problems", {}, "item_problems.txt", 1},
+      {"item_problems", {"--json", "--all"}, "item_problems.json", 1},
       {"file_problems", {}, "file_problems.txt", 3},
-      {"good", {"--previous", feeds_path("previous")}, "previous.txt", 0},
+      {"more_file_problems", {}, "more_file_problems.txt", 3},
+      {"stray_quotes", {"--feeds", "arukereso, talmo"}, "stray_quotes.txt", 3},
+      {"quote_in_field", {}, "quote_in_field.txt", 2},
+      {"good", {"--previous", previous}, "previous.txt", 0},
+      {"good", {"--previous=" + previous, "--price-change", "35.8", "--json"}, "previous.json", 0},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.expected);
     std::vector<std::string> args = {feeds_path(c.feeds)};
     args.insert(args.end(), c.options.begin(), c.options.end());
-    expect_report(args, c.expected,
-                  {{"dir", feeds_path(c.feeds)}, {"previous", feeds_path("previous")}},
-                  c.exit_status);
-  }
-}
-
-TEST(FeedcheckReport, JsonIsOneValidDocumentEvenWithEveryProblemListed) {
-  for (const char* feeds : {"item_problems", "file_problems"}) {
-    SCOPED_TRACE(feeds);
-    const RunResult report = run_feedcheck({feeds_path(feeds), "--json", "--all"});
-    const RunResult parsed =
-        run_command({"python3", "-c", "import json,sys; json.load(sys.stdin)"}, report.out);
-    EXPECT_EQ(parsed.exit_code, 0) << parsed.err;
-  }
-}
-
-// A feed directory of `items` TALMO items whose price could not be computed, nothing else.
-void write_uncomputed_talmo(const std::string& dir, int items) {
-  std::string feed = "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n<termeklista>\n";
-  for (int i = 1; i <= items; ++i) {
-    feed += "\t<termek>\n\t\t<ar>90</ar>\n\t\t<termeklink><![CDATA[https://www.kelvor.hu/t/" +
-            std::to_string(i) + "/]]></termeklink>\n\t</termek>\n";
-  }
-  write_file(dir + "/hu/talmo.xml", feed + "</termeklista>\n");
-}
-
-TEST(FeedcheckReport, ListsTwentyOfAKindAndCountsTheRestUnlessAll) {
-  TempDir dir;
-  write_uncomputed_talmo(dir.path(), 25);
-  const std::string listed_line = "    talmo  https://www.kelvor.hu/t/";
-  const struct {
-    std::vector<std::string> options;
-    std::size_t listed;
-    bool more_line;
-  } cases[] = {{{}, 20, true}, {{"--all"}, 25, false}};
-  for (const auto& c : cases) {
-    std::vector<std::string> args = {dir.path(), "--feeds", "talmo"};
-    args.insert(args.end(), c.options.begin(), c.options.end());
     const RunResult result = run_feedcheck(args);
-    EXPECT_EQ(result.exit_code, 1);
-    std::size_t listed = 0;
-    for (std::size_t at = result.out.find(listed_line); at != std::string::npos;
-         at = result.out.find(listed_line, at + 1))
-      ++listed;
-    EXPECT_EQ(listed, c.listed);
-    EXPECT_NE(result.out.find("  price could not be computed: 25\n"), std::string::npos);
-    EXPECT_EQ(result.out.find("    ...and 5 more (--all lists every one)\n") != std::string::npos,
-              c.more_line);
+    EXPECT_EQ(result.exit_code, c.exit_status);
+    EXPECT_EQ(result.err, "");
+    expect_same_text(expected_report(c.expected, feeds_path(c.feeds)), result.out);
   }
 }
 
-TEST(FeedcheckExitStatus, OneRowPerSituation) {
-  TempDir only_talmo;
-  copy_feeds("good", only_talmo.path());
-  std::filesystem::remove(only_talmo.path() + "/hu/vatera.csv");
-  TempDir broken;
-  copy_feeds("file_problems", broken.path());
-  std::filesystem::remove(broken.path() + "/hu/vatera.csv");
+TEST(FeedcheckCommand, UsageErrorsAndExitStatuses) {
+  TempDir no_vatera;
+  copy_feeds("good", no_vatera.path());
+  std::filesystem::remove(no_vatera.path() + "/hu/vatera.csv");
   const std::string good = feeds_path("good");
+  const std::string me = "talmo_feedcheck: ";
   const struct {
-    const char* situation;
     std::vector<std::string> args;
     int exit_status;
-    std::optional<std::string> error;  // the whole standard error, when it matters
+    std::string out_start;
+    std::string err;
   } cases[] = {
-      {"clean feeds, warnings allowed", {good}, 0, ""},
-      {"a feed named twice", {feeds_path("item_problems"), "--feeds", "talmo,talmo"}, 1, ""},
-      {"item problems only", {feeds_path("item_problems"), "--feeds=grando"}, 1, ""},
-      {"a feed without items", {feeds_path("file_problems"), "--feeds", "grando"}, 3, ""},
-      {"a whole-file problem beside item problems",
-       {feeds_path("file_problems") + "/", "--feeds", "talmo,arukereso"},
-       3,
-       ""},
-      {"a missing feed outweighs a whole-file problem", {broken.path()}, 2, ""},
-      {"no previous copy is no problem", {good, "--previous", only_talmo.path()}, 0, ""},
-      {"a listed feed missing", {only_talmo.path()}, 2, ""},
-      {"the missing feed not listed", {only_talmo.path(), "--feeds", "talmo,heureka"}, 0, ""},
-      {"an unknown option",
-       {good, "--fast"},
+      {{"--help"}, 0, "Usage: talmo_feedcheck [EXPORT_DIR] [--feeds LIST] [--previous DIR]", ""},
+      {{"--version", "--help"}, 0, "Usage: ", ""},
+      {{"--version"}, 0, std::string("talmo_feedcheck ") + TALMO_EXPECTED_VERSION + "\n", ""},
+      {{no_vatera.path()}, 2, "", ""},
+      {{no_vatera.path(), "--feeds", "talmo,heureka"}, 0, "", ""},
+      {{feeds_path("item_problems"), "--feeds=grando,grando"}, 1, "", ""},
+      {{good, "-h"}, 2, "", me + "unknown option \"-h\"; --help lists the options\n"},
+      {{good, "--json=yes"},
        2,
-       "talmo_feedcheck: unknown option \"--fast\"; --help lists the options\n"},
-      {"a short option",
-       {good, "-h"},
+       "",
+       me + "unknown option \"--json=yes\"; --help lists the options\n"},
+      {{good, "--feeds"}, 2, "", me + "--feeds needs a value\n"},
+      {{good, "--feeds="}, 2, "", me + "--feeds needs a value\n"},
+      {{good, "--feeds", "talmo,"},
        2,
-       "talmo_feedcheck: unknown option \"-h\"; --help lists the options\n"},
-      {"no export directory",
-       {only_talmo.path() + "/nothing"},
+       "",
+       me + "unknown feed \"\" in --feeds (talmo, arukereso, grando, vatera, heureka)\n"},
+      {{good, "--price-change", "30%"},
        2,
-       "talmo_feedcheck: the export directory \"" + only_talmo.path() +
-           "/nothing/\" is not a directory\n"},
-      {"no previous directory", {good, "--previous", only_talmo.path() + "/old"}, 2, std::nullopt},
-      {"publishing onto the export",
-       {good, "--publish", good + "/"},
+       "",
+       me + "--price-change takes a percentage such as 30, not \"30%\"\n"},
+      {{good, "b"}, 2, "", me + "one export directory at most; \"b\" is a second\n"},
+      {{good + "/x"}, 2, "", me + "the export directory \"" + good + "/x/\" is not a directory\n"},
+      {{good, "--previous", good + "/x"},
        2,
-       "talmo_feedcheck: --publish names the export directory itself\n"},
+       "",
+       me + "--previous \"" + good + "/x/\" is not a directory\n"},
+      {{good, "--publish", good + "/"},
+       2,
+       "",
+       me + "--publish names the export directory itself\n"},
   };
   for (const auto& c : cases) {
-    SCOPED_TRACE(c.situation);
+    SCOPED_TRACE(c.args.back());
     const RunResult result = run_feedcheck(c.args);
     EXPECT_EQ(result.exit_code, c.exit_status);
-    if (c.error) {
-      EXPECT_EQ(result.err, *c.error);
-    }
+    EXPECT_EQ(result.out.substr(0, c.out_start.size()), c.out_start);
+    EXPECT_EQ(result.err, c.err);
   }
 }
 
@@ -142,47 +107,31 @@ TEST(FeedcheckCommand, APipeWhereAFeedBelongsIsReportedNotWaitedFor) {
   std::filesystem::remove(dir.path() + "/hu/grando.xml");
   ASSERT_EQ(::mkfifo((dir.path() + "/hu/grando.xml").c_str(), 0600), 0);
   const RunResult result = run_feedcheck({dir.path()});
-  EXPECT_FALSE(result.timed_out);
   EXPECT_EQ(result.exit_code, 2);
-  EXPECT_NE(
-      result.out.find("Feeds not read\n  grando (hu/grando.xml): cannot be read: Not a regular "
-                      "file\n"),
-      std::string::npos)
+  EXPECT_NE(result.out.find("  grando (hu/grando.xml): cannot be read: Not a regular file\n"),
+            std::string::npos)
       << result.out;
-}
-
-TEST(FeedcheckCommand, HelpAndVersion) {
-  const RunResult help = run_feedcheck({"--help"});
-  EXPECT_EQ(help.exit_code, 0);
-  EXPECT_EQ(
-      help.out.rfind("Usage: talmo_feedcheck [EXPORT_DIR] [--feeds LIST] [--previous DIR]", 0), 0u);
-  const RunResult version = run_feedcheck({"--version"});
-  EXPECT_EQ(version.exit_code, 0);
-  EXPECT_EQ(version.out, std::string("talmo_feedcheck ") + TALMO_EXPECTED_VERSION + "\n");
-}
-
-// Every file and folder under `dir` with its size, mode and modification time.
-std::map<std::string, std::string> snapshot(const std::string& dir) {
-  std::map<std::string, std::string> entries;
-  for (const auto& entry : std::filesystem::recursive_directory_iterator(dir)) {
-    struct stat info {};
-    ::lstat(entry.path().c_str(), &info);
-    entries[entry.path().string()] =
-        std::to_string(info.st_size) + " " + std::to_string(info.st_mode) + " " +
-        std::to_string(info.st_mtim.tv_sec) + "." + std::to_string(info.st_mtim.tv_nsec);
-  }
-  return entries;
 }
 
 TEST(FeedcheckCommand, WithoutPublishNothingIsWritten) {
   TempDir dir;
   copy_feeds("item_problems", dir.path() + "/export");
   copy_feeds("previous", dir.path() + "/previous");
-  const auto before = snapshot(dir.path());
-  const RunResult result =
-      run_feedcheck({dir.path() + "/export", "--previous", dir.path() + "/previous", "--all"});
-  EXPECT_EQ(result.exit_code, 1);
-  EXPECT_EQ(snapshot(dir.path()), before);
+  const auto snapshot = [&] {
+    std::map<std::string, std::string> entries;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(dir.path())) {
+      struct stat info {};
+      ::lstat(entry.path().c_str(), &info);
+      entries[entry.path()] = std::to_string(info.st_size) + " " + std::to_string(info.st_mode) +
+                              " " + std::to_string(info.st_mtim.tv_sec) + "." +
+                              std::to_string(info.st_mtim.tv_nsec);
+    }
+    return entries;
+  };
+  const auto before = snapshot();
+  EXPECT_EQ(
+      run_feedcheck({dir.path() + "/export", "--previous", dir.path() + "/previous"}).exit_code, 1);
+  EXPECT_EQ(snapshot(), before);
 }
 
 TEST(FeedcheckCommand, ExportDirectoryDefaultsToExportBesideTheProgram) {
@@ -190,9 +139,9 @@ TEST(FeedcheckCommand, ExportDirectoryDefaultsToExportBesideTheProgram) {
   std::filesystem::copy_file(TALMO_FEEDCHECK, dir.path() + "/talmo_feedcheck");
   std::filesystem::permissions(dir.path() + "/talmo_feedcheck", std::filesystem::perms::owner_all);
   copy_feeds("good", dir.path() + "/export");
-  const RunResult result = run_command({dir.path() + "/talmo_feedcheck"}, "", "/");
+  const RunResult result = run_process({dir.path() + "/talmo_feedcheck"}, "/", "", {}, 120);
   EXPECT_EQ(result.exit_code, 0);
-  expect_same_text(expected_report("good.txt", {{"dir", dir.path() + "/export"}}), result.out);
+  expect_same_text(expected_report("good.txt", dir.path() + "/export"), result.out);
 }
 
 }  // namespace

@@ -1,37 +1,49 @@
 #pragma once
 
-// Helpers of the feed checker's tests: running the built checker, the hand-made feeds under
-// tests/feedcheck/feeds/ and the reports expected for them under tests/feedcheck/expected/.
+// Helpers of the feed checker's tests: running the built checker over the hand-made feed sets
+// under tests/feedcheck/feeds/ and reading the reports expected for them.
 
-#include <map>
+#include <filesystem>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "tests/support/subprocess.h"
 #include "tests/support/test_support.h"
 
 namespace talmo::testing {
 
-// Runs the built talmo_feedcheck with `args` in `cwd` ("" keeps ours). Killed after 120 s.
-RunResult run_feedcheck(const std::vector<std::string>& args, const std::string& cwd = "");
-
-// Runs any program `argv` with `stdin_text` as its input, in `cwd` ("" keeps ours).
-RunResult run_command(const std::vector<std::string>& argv, const std::string& stdin_text,
-                      const std::string& cwd = "");
+// Runs the built talmo_feedcheck with `args`. Killed after 120 s.
+inline RunResult run_feedcheck(const std::vector<std::string>& args) {
+  std::vector<std::string> argv = {TALMO_FEEDCHECK};
+  argv.insert(argv.end(), args.begin(), args.end());
+  return run_process(argv, "", "", {}, 120);
+}
 
 // The absolute path of the hand-made feed set `name` (a folder with hu/ and sk/).
-std::string feeds_path(const std::string& name);
+inline std::string feeds_path(const std::string& name) {
+  return source_path("tests/feedcheck/feeds/" + name);
+}
 
 // Copies the feed set `name` into `dir` (made when missing), as an export would leave it.
-void copy_feeds(const std::string& name, const std::string& dir);
+inline void copy_feeds(const std::string& name, const std::string& dir) {
+  std::filesystem::create_directories(dir);
+  std::filesystem::copy(feeds_path(name), dir, std::filesystem::copy_options::recursive);
+}
 
-// The expected report `file`, with every "<version>" replaced by the project's version and every
-// "<NAME>" of `marks` by its text.
-std::string expected_report(const std::string& file,
-                            const std::map<std::string, std::string>& marks);
-
-// Runs the checker as `args` and fails the test unless the report and exit status are as expected.
-void expect_report(const std::vector<std::string>& args, const std::string& expected_file,
-                   const std::map<std::string, std::string>& marks, int exit_status,
-                   const char* file = __builtin_FILE(), int line = __builtin_LINE());
+// The expected report `file`, with "<version>", "<dir>" (the export directory `dir`) and
+// "<previous>" (the feed set "previous") filled in.
+inline std::string expected_report(const std::string& file, const std::string& dir) {
+  std::string text = read_file(source_path("tests/feedcheck/expected/" + file));
+  const std::pair<std::string, std::string> marks[] = {{"<version>", TALMO_EXPECTED_VERSION},
+                                                       {"<dir>", dir},
+                                                       {"<previous>", feeds_path("previous")}};
+  for (const auto& [mark, value] : marks) {
+    for (auto at = text.find(mark); at != std::string::npos;
+         at = text.find(mark, at + value.size()))
+      text.replace(at, mark.size(), value);
+  }
+  return text;
+}
 
 }  // namespace talmo::testing
