@@ -1,5 +1,6 @@
 // The XML feeds, read with libxml2's streaming reader: one item in memory at a time, whatever
 // the size of the file. Nothing is fetched from the network and entities are not expanded.
+#include <libxml/parser.h>
 #include <libxml/xmlreader.h>
 
 #include <memory>
@@ -13,7 +14,6 @@ namespace talmo::feedcheck {
 namespace {
 
 constexpr int kOptions = XML_PARSE_NONET | XML_PARSE_HUGE | XML_PARSE_BIG_LINES;
-constexpr std::size_t kTailSize = 256;
 
 struct FirstError {
   bool set = false;
@@ -21,15 +21,14 @@ struct FirstError {
   int line = 0;
   int column = 0;
   std::string message;
+  bool root_closed = false;  // the parser had read the root element's end tag
 };
 
 // What the walk over the document knows, shared with the error callback.
 struct Walk {
   FileReader* file = nullptr;
   bool read_failed = false;
-  bool input_ended = false;
   std::size_t bytes = 0;
-  std::string tail;  // the last bytes read, to tell a file cut short
   FirstError error;
 };
 
@@ -38,10 +37,6 @@ int read_chunk(void* context, char* buffer, int size) {
   try {
     const std::size_t got = walk.file->read(buffer, static_cast<std::size_t>(size));
     walk.bytes += got;
-    walk.input_ended = got == 0;
-    walk.tail = (walk.tail + std::string(buffer, got));
-    if (walk.tail.size() > kTailSize)
-      walk.tail.erase(0, walk.tail.size() - kTailSize);
     return static_cast<int>(got);
   } catch (const FileReadError&) {
     walk.read_failed = true;
@@ -62,6 +57,11 @@ void keep_first_fatal_error(void* context, xmlErrorPtr error) {
   walk.error.line = error->line;
   walk.error.column = error->int2;
   walk.error.message = error->message ? error->message : "";
+  // The reader parses ahead of the nodes it hands out, so only the parser itself knows
+  // whether the root element was already closed when it stopped.
+  if (error->domain == XML_FROM_PARSER && error->ctxt != nullptr)
+    walk.error.root_closed =
+        static_cast<xmlParserCtxtPtr>(error->ctxt)->instate == XML_PARSER_EPILOG;
   while (!walk.error.message.empty() &&
          (walk.error.message.back() == '\n' || walk.error.message.back() == ' '))
     walk.error.message.pop_back();
@@ -156,16 +156,6 @@ class ItemCollector {
   std::string param_name_;
 };
 
-// Whether the file ends with the root element's closing tag (blanks after it allowed).
-bool ends_with_closing_tag(std::string tail, const std::string& root) {
-  while (!tail.empty() &&
-         (tail.back() == '\n' || tail.back() == '\r' || tail.back() == ' ' || tail.back() == '\t'))
-    tail.pop_back();
-  const std::string closing = "</" + root + ">";
-  return tail.size() >= closing.size() &&
-         tail.compare(tail.size() - closing.size(), closing.size(), closing) == 0;
-}
-
 // Names the item an error at `error` is in, or the one before it.
 std::string item_context(FileReader& file, const FeedKind& kind, const FirstError& error) {
   const ItemPlace place =
@@ -191,9 +181,9 @@ FileProblem not_well_formed(FileReader& file, const FeedKind& kind, const Walk& 
   if (!error.set)
     return {ProblemKind::NotWellFormed, "the XML reader stopped without saying why"};
   std::string message = error.message;
-  // The streaming parser reports a file that stops half-way as extra content at its end.
-  if (error.code == XML_ERR_DOCUMENT_END && walk.input_ended &&
-      !ends_with_closing_tag(walk.tail, kind.root)) {
+  // The streaming parser reports a file that stops before its root element is closed as extra
+  // content at its end, the same as text after the root element.
+  if (error.code == XML_ERR_DOCUMENT_END && !error.root_closed) {
     message = std::string("the file ends before </") + kind.root + "> closes it: it was cut short";
   }
   return {ProblemKind::NotWellFormed, "line " + std::to_string(error.line) + ", column " +
