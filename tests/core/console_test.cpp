@@ -10,23 +10,17 @@ namespace {
 TEST(ConsoleRecording, KeepsACopyOfWhatIsWrittenWhileItLasts) {
   CapturedStdout out;
   write_line("before");
-  std::string outer_output;
   std::string inner_output;
+  ConsoleRecording outer;
+  write_text("Error in Query: \r\r");
   {
-    ConsoleRecording outer;
-    write_text("Error in Query: \r\r");
-    {
-      ConsoleRecording inner;
-      write_line("SELECT 1;");
-      inner_output = inner.output();
-    }
-    write_line("");
-    outer_output = outer.output();
+    ConsoleRecording inner;
+    write_line("SELECT 1;");
+    inner_output = inner.output();
   }
-  write_line("after");
   EXPECT_EQ(inner_output, "SELECT 1;\n");
-  EXPECT_EQ(outer_output, "Error in Query: \r\rSELECT 1;\n\n");
-  EXPECT_EQ(out.text(), "before\nError in Query: \r\rSELECT 1;\n\nafter\n");
+  EXPECT_EQ(outer.output(), "Error in Query: \r\rSELECT 1;\n");
+  EXPECT_EQ(out.text(), "before\nError in Query: \r\rSELECT 1;\n");
 }
 
 }  // namespace
