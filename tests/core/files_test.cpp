@@ -59,8 +59,7 @@ TEST(ReplacingFile, SituationsOfTheOldFile) {
     }
     for (const char* link : {"export/talmo.xml", "export/hu/talmo.xml", "dangling.csv"})
       EXPECT_TRUE(fs::is_symlink(d + link)) << link;
-    // No temporary file left anywhere.
-    EXPECT_EQ(entries_in(d), 5u);
+    EXPECT_EQ(entries_in(d), 5u);  // no temporary file left anywhere
     EXPECT_EQ(entries_in(d + "www"), 2u);
   }
   ::umask(mask);

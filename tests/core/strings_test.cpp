@@ -11,7 +11,7 @@
 namespace talmo {
 namespace {
 
-TEST(CaseFolding, FoldsAsciiLettersOnly) {
+TEST(CaseFolding, FoldsAsciiLettersOnlyAndTrimRemovesBlanksAndControls) {
   EXPECT_EQ(upper_ascii("Tápegység ő"), "TáPEGYSéG ő");
   EXPECT_EQ(lower_ascii("ÁRVÍZ Tûrõ"), "ÁrvÍz tûrõ");
   EXPECT_TRUE(equals_ci("LAPTOP", "laptop"));
@@ -19,9 +19,7 @@ TEST(CaseFolding, FoldsAsciiLettersOnly) {
   EXPECT_TRUE(contains_ci("xAkC12", "akc"));
   EXPECT_FALSE(contains_ci("ab", "abc"));
   EXPECT_TRUE(contains_ci("abc", ""));
-}
-
-TEST(Trim, RemovesBlanksAndControlCharactersOnly) {
+  // Trimming removes blanks and control characters only.
   EXPECT_EQ(trim(" \t\r\n a b \x01"), "a b");
   EXPECT_EQ(trim("\xC2\xA0x\xC2\xA0"), "\xC2\xA0x\xC2\xA0");  // a no-break space stays
   EXPECT_EQ(trim("   "), "");
@@ -33,13 +31,10 @@ TEST(Replace, AllOccurrencesWithoutRescanningReplacedText) {
   EXPECT_EQ(replace_all("abc", "", "x"), "abc");
   EXPECT_EQ(replace_all_ci("Van, VAN, van", "van", ""), ", , ");
   EXPECT_EQ(replace_all_ci("x-01-Y-01-", "-01-", "-02-"), "x-02-Y-02-");
-}
-
-TEST(ListPositions, MissingPositionRaisesOrReadsEmpty) {
-  const StringList list{"a", "b"};
-  EXPECT_EQ(item_at(list, 1), "b");
-  EXPECT_THROW(item_at(list, 2), ListIndexError);
-  EXPECT_EQ(item_or_empty(list, 2), "");
+  // A missing list position raises or reads empty.
+  EXPECT_EQ(item_at({"a", "b"}, 1), "b");
+  EXPECT_THROW(item_at({"a", "b"}, 2), ListIndexError);
+  EXPECT_EQ(item_or_empty({"a", "b"}, 2), "");
 }
 
 // Each accepted text with its value; the raising form gives the same value. Refused texts have

@@ -1,5 +1,4 @@
-// The one helper whose fault no other test would show: a comparison of whole texts that never
-// failed would let every broken feed and console pass.
+// The helper whose fault no other test would show: a text comparison that never fails.
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 

@@ -30,7 +30,6 @@ TEST(StringExtract, KeepsEmptyPiecesAndTrimsOnlyTheLast) {
 
 TEST(Numbers, CountsAndDecimalPoints) {
   EXPECT_EQ(COUNTOCCURENCES("aa", "aaaaa"), 2);
-  EXPECT_EQ(COUNTOCCURENCES("", "abc"), 0);
   const std::pair<const char*, const char*> cases[] = {{"1 234,50", "1234.50"},
                                                        {"1.234.567,89", "1234567.89"},
                                                        {"Kalkulálás alatt", "0"},
