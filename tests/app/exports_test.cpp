@@ -1,5 +1,4 @@
-// The export operations against the private database: what the operator sees when the product
-// list cannot be read.
+// What the operator sees when the export's product list cannot be read.
 #include <gtest/gtest.h>
 
 #include "app/exports.h"
@@ -10,8 +9,8 @@ namespace {
 
 TEST(Exports, FailedIdListIsReportedAndTheExportGoesOnWithNothing) {
   DbSession db;
-  PrivateMariaDb::instance().reset_database();
-  PrivateMariaDb::instance().run_sql("RENAME TABLE laptop_adatbazis TO laptop_regi;");
+  db.server.reset_database();
+  db.server.run_sql("RENAME TABLE laptop_adatbazis TO laptop_regi;");  // a missing main table
   TempDir dir;
   RunContext run;
   run.PATH = dir.path() + "/";
@@ -19,7 +18,6 @@ TEST(Exports, FailedIdListIsReportedAndTheExportGoesOnWithNothing) {
   CapturedStdout out;
   DO_EXPORT_TALMO(run);
   DO_EXPORT_VATERA(run);
-  PrivateMariaDb::instance().run_sql("RENAME TABLE laptop_regi TO laptop_adatbazis;");
   EXPECT_EQ(out.text(),
             "SELECT id FROM laptop_adatbazis ORDER BY id DESC;\n"
             "|Table 'uj_db.laptop_adatbazis' doesn't exist\n"

@@ -8,45 +8,35 @@
 namespace talmo::testing {
 namespace {
 
-class Lookups : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() {
-    PrivateMariaDb::instance().reset_database();
-    PrivateMariaDb::instance().run_sql(
-        "INSERT INTO laptop_adatbazis (id, published, sorszam) VALUES "
-        "(1, 1, '11000'), (2, 0, 'AKC-77'), (3, NULL, 'xAkC12'), (4, 1, 'ak c'), (10, 1, NULL);");
-  }
-
-  DbSession db_;
-};
-
-TEST_F(Lookups, ErrorLinesCarryTheStatementWithItsLineEnd) {
-  Query& query = db_.query;
-  query.set_statement(Statement(StatementKind::unlisted, {}, "SELECT x FROM y;"));
+TEST(Lookups, ErrorLinesCarryTheStatementWithItsLineEnds) {
+  Connection connection;  // never opened: setting a statement does not touch the database
+  Query query(connection);
+  // CRLF, a lone CR and a lone LF inside a value each end a line of the kept text.
+  query.set_statement(Statement(StatementKind::unlisted, {}, "SELECT 'a\r\nb\rc\n';"));
+  const std::string kept = "SELECT 'a\nb\nc\n';\n";
   EXPECT_EQ(query_error_line(query, QueryErrorLine::plain, "boom"),
-            "Error in Query: \r\rSELECT x FROM y;\n\r\r");
+            "Error in Query: \r\r" + kept + "\r\r");
   EXPECT_EQ(query_error_line(query, QueryErrorLine::with_message, "boom"),
-            "Error in Query: \r\rSELECT x FROM y;\n\r\rSQL Return Message: \r\rboom");
+            "Error in Query: \r\r" + kept + "\r\rSQL Return Message: \r\rboom");
   EXPECT_EQ(query_error_line(query, QueryErrorLine::with_error_message, "boom"),
-            "Error in Query: SELECT x FROM y;\n | Error Message: boom");
-  EXPECT_EQ(query_error_line(query, QueryErrorLine::id_list, "boom"), "SELECT x FROM y;\n|boom");
+            "Error in Query: " + kept + " | Error Message: boom");
+  EXPECT_EQ(query_error_line(query, QueryErrorLine::id_list, "boom"), kept + "|boom");
 }
 
-TEST_F(Lookups, LookupTextGivesTheFirstRowOrNothing) {
+TEST(Lookups, LookupTextGivesTheFirstRowOrNothingOrPrintsTheError) {
+  DbSession db;
+  db.server.reset_database();
+  db.server.run_sql(
+      "INSERT INTO laptop_adatbazis (id, sorszam) VALUES (1, '11000'), (2, 'AKC-77'), (10, NULL);");
   CapturedStdout out;
-  EXPECT_EQ(lookup_text(db_.query, statements::product_columns({"sorszam"}, "2"), "sorszam"),
-            "AKC-77");
-  EXPECT_EQ(lookup_text(db_.query, statements::product_columns({"sorszam"}, "99"), "sorszam"), "");
-  EXPECT_EQ(lookup_text(db_.query, statements::product_columns({"sorszam"}, "10"), "sorszam"), "");
-  // The cursor keeps the last statement it ran, with its kind and values.
-  EXPECT_EQ(db_.query.statement().kind(), StatementKind::product_columns);
-  EXPECT_EQ(db_.query.statement().parameters(), (StringList{"sorszam", "10"}));
+  const auto sorszam = [&](const char* IDX) {
+    return lookup_text(db.query, statements::product_columns({"sorszam"}, IDX), "sorszam");
+  };
+  EXPECT_EQ(sorszam("2"), "AKC-77");
+  EXPECT_EQ(sorszam("99"), "");
+  EXPECT_EQ(sorszam("10"), "");
   EXPECT_EQ(out.text(), "");
-}
-
-TEST_F(Lookups, FailedLookupPrintsTheDefaultLineAndGivesItsDefault) {
-  CapturedStdout out;
-  EXPECT_EQ(lookup_text(db_.query, statements::product_columns({"nothere"}, "1"), "nothere"), "");
+  EXPECT_EQ(lookup_text(db.query, statements::product_columns({"nothere"}, "1"), "nothere"), "");
   EXPECT_EQ(out.text(),
             "Error in Query: \r\rSELECT nothere FROM laptop_adatbazis WHERE id='1';\n\r\r\n");
 }

@@ -10,17 +10,14 @@
 namespace talmo::testing {
 namespace {
 
-struct Case {
-  const char* name;
-  std::vector<Replacements::Pair> pairs;
-  bool ignore_case;
-  std::string text;
-  std::string expected;
-  bool scans_once;
-};
-
 TEST(Replacements, GiveWhatReplacingPairByPairGives) {
-  const Case cases[] = {
+  const struct {
+    const char* name;
+    std::vector<Replacements::Pair> pairs;
+    bool ignore_case;
+    std::string text, expected;
+    bool scans_once;
+  } cases[] = {
       {"tags in any letter case",
        {{"<b>", "<strong>"}, {"</b>", "</strong>"}},
        true,
@@ -57,15 +54,9 @@ TEST(Replacements, GiveWhatReplacingPairByPairGives) {
        "aaaaa",
        "aaa",
        false},
-      {"nothing to replace",
-       {{"<p style=\"x\">", "<p id=\"y\">"}},
-       true,
-       "<p style=\"z\">",
-       "<p style=\"z\">",
-       true},
       {"an empty pattern changes nothing", {{"", "x"}, {"b", "c"}}, false, "abc", "acc", false},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     const Replacements replacements(c.pairs, c.ignore_case);
     EXPECT_EQ(replacements.apply(c.text), c.expected) << c.name;
     EXPECT_EQ(replacements.scans_once(), c.scans_once) << c.name;
@@ -73,17 +64,9 @@ TEST(Replacements, GiveWhatReplacingPairByPairGives) {
 }
 
 TEST(Replacements, BlankRunsCollapseToOneBlank) {
-  const struct {
-    std::string text, expected;
-  } cases[] = {
-      {"", ""},
-      {"a  b", "a b"},
-      {"   ", " "},
-      {"  a   b    c ", " a b c "},
-      {"a\t\tb  \n  c", "a\t\tb \n c"},
-  };
-  for (const auto& c : cases)
-    EXPECT_EQ(collapse_blanks(c.text), c.expected) << c.text;
+  EXPECT_EQ(collapse_blanks("   "), " ");
+  EXPECT_EQ(collapse_blanks("  a   b    c "), " a b c ");
+  EXPECT_EQ(collapse_blanks("a\t\tb  \n  c"), "a\t\tb \n c");
 }
 
 }  // namespace

@@ -1,14 +1,11 @@
 // The statements whose texts no feed or console shows whole elsewhere, by exact text, kind and
-// spliced values; and how the cursor keeps one. No database: only texts are compared.
+// spliced values. No database: only texts are compared.
 #include "core/statements.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
-
-#include "core/database.h"
-#include "core/lookup.h"
 
 namespace talmo {
 namespace {
@@ -75,19 +72,6 @@ TEST(Statements, EachKindSplicesItsValuesAsTheyAre) {
     EXPECT_EQ(c.built.kind(), c.kind) << c.text;
     EXPECT_EQ(c.built.parameters(), c.parameters) << c.text;
   }
-}
-
-TEST(Statements, CursorKeepsTheStatementAndItsTextAsLines) {
-  Connection connection;  // never opened: setting a statement does not touch the database
-  Query query(connection);
-  EXPECT_EQ(query.statement().kind(), StatementKind::unlisted);
-  EXPECT_EQ(query.sql_text(), "");
-  query.set_statement(statements::translation("táska\r\negér\rkábel\n", "SK"));
-  EXPECT_EQ(query.statement().kind(), StatementKind::translation);
-  // CRLF, a lone CR and a lone LF inside a value each end a line of the kept text.
-  EXPECT_EQ(query_error_line(query, QueryErrorLine::plain, "ignored"),
-            "Error in Query: \r\rSELECT forditas FROM laptop_adatbazis_forditasok WHERE "
-            "szocikk='táska\negér\nkábel\n' AND language='SK' ORDER BY id DESC LIMIT 1;\n\r\r");
 }
 
 }  // namespace
