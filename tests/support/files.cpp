@@ -74,15 +74,10 @@ std::string excerpt(const std::string& text, std::size_t start, std::size_t at) 
   for (std::size_t i = std::max(start, at - std::min(at, std::size_t{80}));
        i < std::min(text.size(), at + 80) && text[i] != '\n'; ++i) {
     const unsigned char c = static_cast<unsigned char>(text[i]);
+    const std::size_t named = std::string("\r\t\\").find(text[i]);
     char code[8];
-    std::snprintf(code, sizeof code,
-                  c == '\r'               ? "\\r"
-                  : c == '\t'             ? "\\t"
-                  : c == '\\'             ? "\\\\"
-                  : c < 0x20 || c == 0x7f ? "\\x%02x"
-                                          : "%c",
-                  c);
-    shown += code;
+    std::snprintf(code, sizeof code, c < 0x20 || c == 0x7f ? "\\x%02x" : "%c", c);
+    shown += named != std::string::npos ? std::string("\\") + "rt\\"[named] : code;
   }
   return shown;
 }

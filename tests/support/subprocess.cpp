@@ -63,8 +63,8 @@ pid_t spawn(const std::vector<std::string>& argv, const std::string& cwd,
     if (::getppid() != parent)
       ::_exit(127);
     int fds[] = {in, out, err};
-    for (int target = 0; target < 3; ++target)
-      fds[target] = ::fcntl(fds[target], F_DUPFD_CLOEXEC, 10);
+    for (int& fd : fds)
+      fd = fd < 0 ? ::open("/dev/null", O_RDWR | O_CLOEXEC) : ::fcntl(fd, F_DUPFD_CLOEXEC, 10);
     for (int target = 0; target < 3; ++target)
       ::dup2(fds[target], target);
     ::close_range(3, ~0U, 0);
@@ -102,13 +102,8 @@ RunResult run_process(const std::vector<std::string>& argv, const std::string& c
   const int in = temporary_file(stdin_text), out = temporary_file(), err = temporary_file();
   const pid_t pid = spawn(argv, cwd, additions, in, out, err);
   ::close(in);
-  RunResult result;
   const std::optional<int> code = wait_process(pid, timeout_seconds);
-  result.timed_out = !code;
-  result.exit_code = code ? *code : end_process(pid, SIGKILL);
-  result.out = read_all(out);
-  result.err = read_all(err);
-  return result;
+  return {code ? *code : end_process(pid, SIGKILL), read_all(out), read_all(err), !code};
 }
 
 RunResult run_tool(const std::string& dir, const std::string& stdin_text,
@@ -121,10 +116,8 @@ RunResult run_tool(const std::string& dir, const std::string& stdin_text,
 BackgroundTool::BackgroundTool(const std::string& dir, const std::string& input,
                                const Environment& environment)
     : dir_(dir) {
-  const int none = ::open("/dev/null", O_RDWR | O_CLOEXEC);
   pid_ = spawn({"/bin/sh", "-c", "exec ./talmo_software " + input + " >out.txt 2>err.txt"}, dir,
-               place_tool(dir, environment), none, none, none);
-  ::close(none);
+               place_tool(dir, environment), -1, -1, -1);
 }
 
 BackgroundTool::~BackgroundTool() {

@@ -13,7 +13,7 @@ namespace talmo::testing {
 RunResult run_process(const std::vector<std::string>& argv, const std::string& cwd,
                       const std::string& stdin_text, const Environment& additions,
                       int timeout_seconds);
-// Starts `argv` like run_process with the descriptors `in`, `out` and `err` as its streams.
+// Starts `argv` like run_process with `in`, `out` and `err` (-1: /dev/null) as its streams.
 pid_t spawn(const std::vector<std::string>& argv, const std::string& cwd,
             const Environment& additions, int in, int out, int err);
 // The exit code (128 + signal when killed) once `pid` has ended within `seconds`, else nullopt.

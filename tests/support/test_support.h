@@ -3,7 +3,6 @@
 // Helpers shared by every test program: a private MariaDB server, temporary directories, file
 // access, captured console output, running the built tool and comparing long texts.
 
-#include <sys/types.h>
 #include <unistd.h>
 
 #include <iostream>
@@ -27,8 +26,8 @@ std::string read_file(const std::string& path);
 // uj_db and the shop's login exprtr / "T7d3wq415M".
 class PrivateMariaDb {
  public:
-  // The process's server, started on first use; call it before the first Connection is opened
-  // (it sets MYSQL_TCP_PORT). Throws std::runtime_error with the log's tail if it cannot start.
+  // The process's server, started on first use, before the first Connection is opened (it sets
+  // MYSQL_TCP_PORT). Throws std::runtime_error with the server's log if it cannot start.
   static PrivateMariaDb& instance();
   static bool running() { return running_; }
   int port() const { return port_; }
@@ -60,7 +59,9 @@ class PrivateMariaDb {
 
 // The tool's own connection as exprtr to the private server (started first), and a cursor.
 struct DbSession {
-  DbSession();
+  DbSession() : server(PrivateMariaDb::instance()), query(connection) {
+    connection.open("127.0.0.1", "exprtr", "T7d3wq415M", "uj_db");
+  }
   PrivateMariaDb& server;
   Connection connection;
   Query query;
@@ -79,12 +80,9 @@ class TempDir {
 
 // Replaces the file with `content`, creating missing parent directories; throws on failure.
 void write_file(const std::string& path, const std::string& content);
-// The permission bits of the file at `path` (links followed).
-mode_t mode_of(const std::string& path);
-// How many entries the directory holds.
-std::size_t entries_in(const std::string& dir);
-// Whether anything (file, directory, link) exists at `path`.
-bool file_exists(const std::string& path);
+mode_t mode_of(const std::string& path);         // the permission bits, links followed
+std::size_t entries_in(const std::string& dir);  // how many entries the directory holds
+bool file_exists(const std::string& path);       // anything: file, directory, link
 // Whether the build has the shop's default site hosts, which the expected files name.
 bool built_with_default_site();
 // The shop's login as a first run writes it into config.dat.
