@@ -179,11 +179,8 @@ TEST_F(Faults, ConfigDatThatIsNoPlainFileIsNeverTouched) {
 TEST_F(Faults, ClosedStandardInputAnswersNoToEverything) {
   BackgroundTool tool(dir_, "<&-");
   EXPECT_EQ(tool.wait(60), 0);
-  EXPECT_TRUE(
-      tool.out().ends_with("): TALMO export skipped\nARUKERESO export skipped\nGRANDO "
-                           "export skipped\nVATERA export skipped\nHEUREKA.SK export "
-                           "skipped\n" +
-                           kClosing));
+  EXPECT_EQ(tool.out().find("Beginning"), std::string::npos) << tool.out();
+  EXPECT_TRUE(tool.out().ends_with("\nHEUREKA.SK export skipped\n" + kClosing)) << tool.out();
 }
 
 TEST_F(Faults, SecondRunInTheSameDirectoryStopsAtOnce) {

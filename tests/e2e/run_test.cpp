@@ -32,7 +32,8 @@ class ToolRun : public ::testing::Test {
   const std::string path_ = dir_.path() + "/";
 };
 
-TEST_F(ToolRun, OnlyAnswersStartingWithYRunAnExport) {
+TEST_F(ToolRun, OnlyAnswersStartingWithYRunAnExportAndAMissingConfigIsWritten) {
+  std::filesystem::remove(path_ + "config.dat");
   const std::string all_no =
       kPrompts + kSkipped + "VATERA export skipped\nHEUREKA.SK export skipped\n" + kClosing;
   for (const auto& [answers, console, written] :
@@ -49,6 +50,9 @@ TEST_F(ToolRun, OnlyAnswersStartingWithYRunAnExport) {
     EXPECT_EQ(entries_in(path_ + "export/hu"), written);
     EXPECT_EQ(file_exists(path_ + "export/hu/vatera.csv"), written == 1);
   }
+  // With the default login, for its owner only.
+  EXPECT_EQ(read_file(path_ + "config.dat"), kDefaultConfig);
+  EXPECT_EQ(mode_of(path_ + "config.dat"), 0600u);
 }
 
 TEST_F(ToolRun, AnyOptionIsRefusedBeforeAnythingElse) {
@@ -64,34 +68,22 @@ TEST_F(ToolRun, AnyOptionIsRefusedBeforeAnythingElse) {
 }
 
 TEST_F(ToolRun, LoginFailuresEndTheRunBeforeAnyQuestion) {
-  struct Case {
-    std::string config, port, start, end;
-  };
-  for (const Case& c : std::vector<Case>{
+  const std::string server = std::to_string(PrivateMariaDb::instance().port());
+  for (const auto& [config, port, start, end] : std::vector<std::array<std::string, 4>>{
            // Nothing listens on port 1: the client library's own message.
            {kDefaultConfig, "1", "Can't connect to server on '127.0.0.1' (", ")\n"},
-           {"127.0.0.1\n3306\nexprtr\nwrong\nuj_db\n", "",
+           {"127.0.0.1\n3306\nexprtr\nwrong\nuj_db\n", server,
             "Access denied for user 'exprtr'@'localhost' (using password: YES)\n", ""},
            // Only the host: user, password and database read as empty; the file is not rewritten.
-           {"127.0.0.1\r\n", "", "Access denied for user '", "\n"}}) {
-    write_file(path_ + "config.dat", c.config);
-    Environment environment;
-    if (!c.port.empty())
-      environment["MYSQL_TCP_PORT"] = c.port;
-    const RunResult result = run_tool(dir_.path(), "y\n", {}, environment);
+           {"127.0.0.1\r\n", server, "Access denied for user '", "\n"}}) {
+    write_file(path_ + "config.dat", config);
+    const RunResult result = run_tool(dir_.path(), "y\n", {}, {{"MYSQL_TCP_PORT", port}});
     EXPECT_EQ(result.exit_code, 1);
-    EXPECT_EQ(result.out.substr(0, c.start.size()), c.start);
-    EXPECT_TRUE(result.out.ends_with(c.end + kClosing)) << result.out;
+    EXPECT_EQ(result.out.substr(0, start.size()), start);
+    EXPECT_TRUE(result.out.ends_with(end + kClosing)) << result.out;
     EXPECT_EQ(result.out.find("(y/n)"), std::string::npos);
-    EXPECT_EQ(read_file(path_ + "config.dat"), c.config);
+    EXPECT_EQ(read_file(path_ + "config.dat"), config);
   }
-}
-
-TEST_F(ToolRun, MissingConfigIsWrittenWithDefaultsForItsOwnerOnly) {
-  std::filesystem::remove(path_ + "config.dat");
-  EXPECT_EQ(run_tool(dir_.path(), "n\n").exit_code, 0);
-  EXPECT_EQ(read_file(path_ + "config.dat"), kDefaultConfig);
-  EXPECT_EQ(mode_of(path_ + "config.dat"), 0600u);
 }
 
 TEST_F(ToolRun, MissingSlovakFolderStopsTheRunAfterTheHungarianFeeds) {

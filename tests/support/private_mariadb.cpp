@@ -8,12 +8,9 @@
 #include "tests/support/test_support.h"
 
 namespace talmo::testing {
-namespace {
 
 const std::string kCreateDatabase =
     "CREATE DATABASE uj_db CHARACTER SET utf8mb4 COLLATE utf8mb4_general_ci;\n";
-
-}  // namespace
 
 PrivateMariaDb& PrivateMariaDb::instance() {
   static std::string failure;  // a server that failed once is not retried by every later test
@@ -46,10 +43,9 @@ PrivateMariaDb::PrivateMariaDb() {
       throw std::runtime_error("mariadb-install-db failed:\n" + install.out + install.err);
     launch();
     run_client(kCreateDatabase +
-               "CREATE USER 'exprtr'@'%' IDENTIFIED BY 'T7d3wq415M';\n"
-               "CREATE USER 'exprtr'@'localhost' IDENTIFIED BY 'T7d3wq415M';\n"
-               "GRANT SELECT ON uj_db.* TO 'exprtr'@'%';\n"
-               "GRANT SELECT ON uj_db.* TO 'exprtr'@'localhost';\n");
+               "CREATE USER 'exprtr'@'%' IDENTIFIED BY 'T7d3wq415M', "
+               "'exprtr'@'localhost' IDENTIFIED BY 'T7d3wq415M';\n"
+               "GRANT SELECT ON uj_db.* TO 'exprtr'@'%', 'exprtr'@'localhost';\n");
   } catch (...) {
     stop(SIGKILL);
     throw;

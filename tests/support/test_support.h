@@ -118,9 +118,8 @@ struct RunResult {
 RunResult run_tool(const std::string& dir, const std::string& stdin_text,
                    const std::vector<std::string>& args = {}, const Environment& environment = {});
 
-// The built tool in the background in `dir`, as a scheduler starts it: input from the shell
-// redirection `input` (e.g. "<answers.txt" or "<&-"), outputs into dir/out.txt and dir/err.txt.
-// Killed when it goes out of scope still running.
+// The built tool run in `dir` in the background, input from the shell redirection `input` (e.g.
+// "<answers.txt" or "<&-"), outputs into dir/out.txt and err.txt. Killed on destruction.
 class BackgroundTool {
  public:
   BackgroundTool(const std::string& dir, const std::string& input,
