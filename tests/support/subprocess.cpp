@@ -79,7 +79,7 @@ pid_t spawn(const std::vector<std::string>& argv, const std::string& cwd,
 std::optional<int> wait_process(pid_t pid, int seconds) {
   const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(seconds);
   int status = 0;
-  while (::waitpid(pid, &status, WNOHANG) != pid) {
+  while (::waitpid(pid, &status, WNOHANG) == 0) {  // -1: already reaped
     if (std::chrono::steady_clock::now() >= deadline)
       return std::nullopt;
     std::this_thread::sleep_for(std::chrono::milliseconds(5));
