@@ -5,14 +5,11 @@
 #include <signal.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <filesystem>
-#include <map>
-#include <memory>
+#include <functional>
 
 #include "tests/support/subprocess.h"
 #include "tests/support/test_support.h"
@@ -23,55 +20,25 @@ namespace {
 namespace fs = std::filesystem;
 
 // The five feeds in export order, with the progress text of their third item.
-struct Feed {
-  const char* file;
-  const char* third_item;
-};
-constexpr std::array<Feed, 5> kFeeds = {{
+const std::pair<std::string, std::string> kFeeds[] = {
     {"export/hu/talmo.xml", "(Type: TALMO :: Site: HU) 3 of"},
     {"export/hu/arukereso.csv", "(Type: ARUKERESO :: Site: HU) 3 of"},
     {"export/hu/grando.xml", "(Type: GRANDO :: Site: HU) 3 of"},
     {"export/hu/vatera.csv", "(Type: VATERA :: Site: HU) 3 of"},
-    {"export/sk/heureka.xml", "(Type: HEUREKA.SK :: Site: SK) 3 of"},
-}};
-
-const std::string kAllYes = "y\ny\ny\ny\ny\n\n";
+    {"export/sk/heureka.xml", "(Type: HEUREKA.SK :: Site: SK) 3 of"}};
+const std::string kAllYes = "y\ny\ny\ny\ny\n\n", kAllNo = "n\nn\nn\nn\nn\n\n";
 const std::string kClosing = "Software Finished succesfully. Press ENTER to quit";
-// Every lookup asks the server, so a fault is met at once (a snapshot may have read ahead).
-const Environment kOneStatementPerLookup = {{"TALMO_SNAPSHOT", "off"}};
+// Every lookup asks the server, so a fault is met at once and a run is slow enough to be caught
+// at each moment (a snapshot run of this small catalogue is over before its lines are seen).
+const Environment kOneByOne = {{"TALMO_SNAPSHOT", "off"}};
 
 void load_catalogue() {
-  PrivateMariaDb& server = PrivateMariaDb::instance();
-  server.reset_database();
   const RunResult sample = run_process(
       {"python3", source_path("tools/generate_sample_catalogue.py"), "--products", "60"}, "", "",
       {}, 60);
   ASSERT_EQ(sample.exit_code, 0) << sample.err;
-  server.run_sql(sample.out);
-}
-
-// Files in the feed folders that are no feed: what a run left behind.
-std::vector<std::string> leftovers(const std::string& dir) {
-  std::vector<std::string> found;
-  for (const char* site : {"/export/hu", "/export/sk"}) {
-    for (const auto& entry : fs::directory_iterator(dir + site)) {
-      const std::string name = entry.path().filename();
-      if (name.find(".tmp-") != std::string::npos)
-        found.push_back(name);
-    }
-  }
-  return found;
-}
-
-// The shell redirection that feeds `answers` to a background run.
-std::string answered(const std::string& dir, const std::string& answers) {
-  write_file(dir + "/answers.txt", answers);
-  return "<answers.txt";
-}
-
-void write_old_feeds(const std::string& dir) {
-  for (const Feed& feed : kFeeds)
-    write_file(dir + "/" + feed.file, std::string("yesterday's ") + feed.file + "\n");
+  PrivateMariaDb::instance().reset_database();
+  PrivateMariaDb::instance().run_sql(sample.out);
 }
 
 class Faults : public ::testing::Test {
@@ -81,187 +48,166 @@ class Faults : public ::testing::Test {
     load_catalogue();
     TempDir dir;
     prepare_run_directory(dir.path());
-    const RunResult healthy = run_tool(dir.path(), kAllYes, {}, kOneStatementPerLookup);
-    ASSERT_EQ(healthy.exit_code, 0) << healthy.out;
-    for (const Feed& feed : kFeeds)
-      complete_[feed.file] = read_file(dir.path() + "/" + feed.file);
+    ASSERT_EQ(run_tool(dir.path(), kAllYes, {}, kOneByOne).exit_code, 0);
+    for (const auto& [file, third_item] : kFeeds)
+      complete_[file] = read_file(dir.path() + "/" + file);
   }
 
-  void SetUp() override { prepare_run_directory(dir_.path()); }
+  void SetUp() override { prepare_run_directory(dir_); }
 
-  // Each feed is yesterday's or a complete one, never anything in between.
-  void expect_old_or_complete(std::size_t refreshed) {
-    for (std::size_t k = 0; k < kFeeds.size(); ++k) {
-      const std::string text = read_file(dir_.path() + "/" + kFeeds[k].file);
-      if (k < refreshed)
-        expect_same_text(complete_[kFeeds[k].file], text);
+  // Yesterday's feeds, and a run started on them in the background with `answers`.
+  std::unique_ptr<BackgroundTool> start(const std::string& answers, const Environment& env) {
+    for (const auto& [file, third_item] : kFeeds)
+      write_file(dir_ + "/" + file, "yesterday's " + file + "\n");
+    write_file(dir_ + "/answers.txt", answers);
+    return std::make_unique<BackgroundTool>(dir_, "<answers.txt", env);
+  }
+
+  // The first `refreshed` feeds are complete and the others yesterday's, nothing in between and
+  // no temporary file left; with -1 each may be either, and temporary files may be left.
+  void expect_feeds(int refreshed) {
+    for (int k = 0; k < 5; ++k) {
+      const std::string text = read_file(dir_ + "/" + kFeeds[k].first);
+      if (k < refreshed || (refreshed < 0 && text != "yesterday's " + kFeeds[k].first + "\n"))
+        expect_same_text(complete_[kFeeds[k].first], text);
       else
-        EXPECT_TRUE(text == std::string("yesterday's ") + kFeeds[k].file + "\n")
-            << kFeeds[k].file << " was replaced by " << text.size() << " bytes";
+        EXPECT_EQ(text, "yesterday's " + kFeeds[k].first + "\n");
     }
-    EXPECT_EQ(leftovers(dir_.path()), std::vector<std::string>{});
+    EXPECT_TRUE(refreshed < 0 || leftovers() == 0);
   }
 
-  static std::map<std::string, std::string> complete_;
-  TempDir dir_;
+  // Files in the feed folders that are no feed: what a killed run left behind.
+  std::size_t leftovers() const {
+    std::size_t found = 0;
+    for (const char* site : {"/export/hu", "/export/sk"}) {
+      for (const auto& entry : fs::directory_iterator(dir_ + site))
+        found += entry.path().string().find(".tmp-") != std::string::npos;
+    }
+    return found;
+  }
+
+  static inline std::map<std::string, std::string> complete_;
+  TempDir temp_;
+  const std::string dir_ = temp_.path();
 };
 
-std::map<std::string, std::string> Faults::complete_;
-
-TEST_F(Faults, ServerKilledDuringEachExportKeepsItsFeedAndFailsTheRun) {
-  for (std::size_t k = 0; k < kFeeds.size(); ++k) {
-    SCOPED_TRACE(kFeeds[k].file);
-    write_old_feeds(dir_.path());
-    {
-      BackgroundTool tool(dir_.path(), answered(dir_.path(), kAllYes), kOneStatementPerLookup);
-      ASSERT_TRUE(tool.wait_for_output(kFeeds[k].third_item, 120)) << tool.out();
-      PrivateMariaDb::instance().signal_server(SIGKILL);
-      EXPECT_EQ(tool.wait(120), 1);
-      const std::string out = tool.out();
-      // The message of the lost connection alone, then the closing message: no lookup's
-      // error line and no later export.
-      const std::size_t closing = out.rfind("\n" + kClosing);
-      ASSERT_NE(closing, std::string::npos) << out;
-      const std::string last = out.substr(out.rfind('\n', closing - 1) + 1);
-      EXPECT_EQ(last.find("Error in Query"), std::string::npos) << last;
-      for (std::size_t later = k + 1; later < kFeeds.size(); ++later)
-        EXPECT_EQ(out.find(kFeeds[later].third_item), std::string::npos);
-    }
-    expect_old_or_complete(k);
-    PrivateMariaDb::instance().restart();
-    load_catalogue();
-  }
-}
-
-TEST_F(Faults, FrozenServerEndsTheRunAfterTheTimeOut) {
-  write_old_feeds(dir_.path());
-  Environment environment = kOneStatementPerLookup;
-  environment["TALMO_DB_TIMEOUT_S"] = "2";
-  BackgroundTool tool(dir_.path(), answered(dir_.path(), kAllYes), environment);
-  ASSERT_TRUE(tool.wait_for_output(kFeeds[0].third_item, 120)) << tool.out();
-  PrivateMariaDb::instance().signal_server(SIGSTOP);
-  const int status = tool.wait(60);
-  PrivateMariaDb::instance().signal_server(SIGCONT);
-  EXPECT_EQ(status, 1) << tool.out();
-  expect_old_or_complete(0);
-}
-
-TEST_F(Faults, ToolKilledWhileSavingLeavesOldOrCompleteFeedsAndTheNextRunTidiesUp) {
+// The server killed during each export or frozen past the time-out in the first, and the tool
+// itself killed at each moment it saves a feed.
+TEST_F(Faults, MidRunFaultsLeaveOldOrCompleteFeeds) {
+  // {moment, signal, sent to the server (else the tool), feeds refreshed (-1: each either)}
+  std::vector<std::tuple<std::string, int, bool, int>> cases = {
+      {kFeeds[0].second, SIGSTOP, true, 0}};
+  for (int k = 0; k < 5; ++k)
+    cases.emplace_back(kFeeds[k].second, SIGKILL, true, k);
   for (const char* moment : {"Saving File:", "Finished Generate_ARUKERESO...", "Converting to XML",
-                             "Saving output file:", "Saving Output File:"}) {
-    SCOPED_TRACE(moment);
-    write_old_feeds(dir_.path());
-    // A snapshot run of this small catalogue is over before its lines are seen; one statement
-    // per lookup leaves the time to kill it at each moment.
-    BackgroundTool tool(dir_.path(), answered(dir_.path(), kAllYes), kOneStatementPerLookup);
-    ASSERT_TRUE(tool.wait_for_output(moment, 120)) << tool.out();
-    tool.send(SIGKILL);
-    const int status = tool.wait(30);  // near the end the run may finish before the signal lands
-    EXPECT_TRUE(status == 128 + SIGKILL || status == 0) << status;
-    for (const Feed& feed : kFeeds) {
-      const std::string text = read_file(dir_.path() + "/" + feed.file);
-      if (text != std::string("yesterday's ") + feed.file + "\n")
-        expect_same_text(complete_[feed.file], text);
+                             "Saving output file:", "Saving Output File:"})
+    cases.emplace_back(moment, SIGKILL, false, -1);
+  PrivateMariaDb& server = PrivateMariaDb::instance();
+  for (const auto& [moment, signal, to_server, refreshed] : cases) {
+    SCOPED_TRACE(moment + (signal == SIGSTOP ? " frozen" : to_server ? " lost" : " tool"));
+    Environment environment = kOneByOne;
+    if (signal == SIGSTOP)
+      environment["TALMO_DB_TIMEOUT_S"] = "2";
+    auto tool = start(kAllYes, environment);
+    ASSERT_TRUE(tool->wait_for_output(moment, 120)) << tool->out();
+    to_server ? server.signal_server(signal) : tool->send(signal);
+    const int status = tool->wait(60);
+    server.signal_server(SIGCONT);
+    const std::string out = tool->out();
+    if (to_server) {
+      // The message of the lost connection alone, then the closing message: no lookup's error
+      // line and no later export.
+      EXPECT_EQ(status, 1);
+      ASSERT_TRUE(out.ends_with("\n" + kClosing)) << out;
+      const std::string last = out.substr(0, out.size() - kClosing.size() - 1);
+      EXPECT_EQ(last.substr(last.rfind('\n') + 1).find("Error in Query"), std::string::npos);
+      for (int later = refreshed + 1; later < 5; ++later)
+        EXPECT_EQ(out.find(kFeeds[later].second), std::string::npos);
+    } else {  // near the end the run may finish before the signal lands
+      EXPECT_TRUE(status == 128 + SIGKILL || status == 0) << status;
+    }
+    expect_feeds(refreshed);
+    if (to_server && signal == SIGKILL) {
+      server.restart();
+      load_catalogue();
     }
   }
-  write_file(dir_.path() + "/export/sk/.heureka.xml.tmp-Ab12Cd", "half a feed");
-  const RunResult next = run_tool(dir_.path(), "n\nn\nn\nn\nn\n\n");
-  EXPECT_EQ(next.exit_code, 0);
-  EXPECT_EQ(leftovers(dir_.path()), std::vector<std::string>{});
+  write_file(dir_ + "/export/sk/.heureka.xml.tmp-Ab12Cd", "half a feed");
+  EXPECT_EQ(run_tool(dir_, kAllNo).exit_code, 0);
+  EXPECT_EQ(leftovers(), 0u);
 }
 
 TEST_F(Faults, FullOrReadOnlyExportFolderIsReportedAndKeepsTheOldFeed) {
-  const std::string folder = dir_.path() + "/export/hu";
+  const std::string folder = dir_ + "/export/hu";
   if (::mount("tmpfs", folder.c_str(), "tmpfs", 0, "size=16k") != 0)
     GTEST_SKIP() << "needs root and tmpfs to fill or freeze a folder";
-  struct Unmount {
-    std::string folder;
-    ~Unmount() { ::umount2(folder.c_str(), MNT_DETACH); }
-  } unmount{folder};
-  write_file(folder + "/talmo.xml", "yesterday's export/hu/talmo.xml\n");
-  const RunResult full = run_tool(dir_.path(), "y\nn\nn\nn\nn\n\n");
-  EXPECT_EQ(full.exit_code, 1);
-  EXPECT_NE(full.out.find("\nUnable to create file \"" + folder + "/talmo.xml\"\n" + kClosing),
-            std::string::npos)
-      << full.out;
-  EXPECT_NE(full.err.find("No space left on device"), std::string::npos) << full.err;
-  EXPECT_EQ(read_file(folder + "/talmo.xml"), "yesterday's export/hu/talmo.xml\n");
-
-  ASSERT_EQ(::mount("tmpfs", folder.c_str(), "tmpfs", MS_REMOUNT | MS_RDONLY, "size=16k"), 0);
-  const RunResult read_only = run_tool(dir_.path(), "n\ny\nn\nn\nn\n\n");
-  EXPECT_EQ(read_only.exit_code, 1);
-  EXPECT_NE(read_only.out.find("Unable to create file \"" + folder + "/arukereso.csv\""),
-            std::string::npos);
-  EXPECT_NE(read_only.err.find("Read-only file system"), std::string::npos) << read_only.err;
-  EXPECT_EQ(read_file(folder + "/talmo.xml"), "yesterday's export/hu/talmo.xml\n");
+  const std::shared_ptr<void> unmount(nullptr,
+                                      [&](void*) { ::umount2(folder.c_str(), MNT_DETACH); });
+  write_file(folder + "/talmo.xml", "yesterday's talmo.xml\n");
+  for (const auto& [answers, feed, error] :
+       {std::tuple{"y\nn\nn\nn\nn\n\n", "/talmo.xml", "No space left on device"},
+        std::tuple{"n\ny\nn\nn\nn\n\n", "/arukereso.csv", "Read-only file system"}}) {
+    if (answers[0] == 'n') {  // the second time on a read-only folder
+      ASSERT_EQ(::mount("tmpfs", folder.c_str(), "tmpfs", MS_REMOUNT | MS_RDONLY, "size=16k"), 0);
+    }
+    const RunResult run = run_tool(dir_, answers);
+    EXPECT_EQ(run.exit_code, 1);
+    EXPECT_TRUE(run.out.ends_with("\nUnable to create file \"" + folder + feed + "\"\n" + kClosing))
+        << run.out;
+    EXPECT_NE(run.err.find(error), std::string::npos) << run.err;
+    EXPECT_EQ(read_file(folder + "/talmo.xml"), "yesterday's talmo.xml\n");
+  }
 }
 
 TEST_F(Faults, ConfigDatThatIsNoPlainFileIsNeverTouched) {
-  const std::string config = dir_.path() + "/config.dat";
-  struct Case {
-    const char* what;
-    void (*make)(const std::string& path);
-  };
-  const Case cases[] = {
-      {"FIFO", [](const std::string& path) { ::mkfifo(path.c_str(), 0600); }},
-      {"directory", [](const std::string& path) { fs::create_directory(path); }},
-      {"huge file", [](const std::string& path) { write_file(path, std::string(70000, 'x')); }},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.what);
+  const std::string config = dir_ + "/config.dat";
+  for (const std::function<void()>& make : std::vector<std::function<void()>>{
+           [&] { ::mkfifo(config.c_str(), 0600); }, [&] { fs::create_directory(config); },
+           [&] { write_file(config, std::string(70000, 'x')); }}) {
     fs::remove_all(config);
-    c.make(config);
+    make();
     const auto kind = fs::status(config).type();
-    const RunResult run = run_tool(dir_.path(), kAllYes);
+    const RunResult run = run_tool(dir_, kAllYes);
     EXPECT_FALSE(run.timed_out);
     EXPECT_EQ(run.exit_code, 1);
     EXPECT_EQ(run.out, "Unable to create file \"" + config + "\"\n");
     EXPECT_EQ(fs::status(config).type(), kind);
+    EXPECT_EQ(entries_in(dir_), 3u);  // config.dat, export, the executable
   }
-  fs::remove_all(config);
 }
 
 TEST_F(Faults, ClosedStandardInputAnswersNoToEverything) {
-  BackgroundTool tool(dir_.path(), "<&-", {});
+  BackgroundTool tool(dir_, "<&-");
   EXPECT_EQ(tool.wait(60), 0);
-  EXPECT_EQ(tool.out(),
-            "Start TALMO export? (y/n): Start ARUKERESO export? (y/n): Start GRANDO export? (y/n): "
-            "Start VATERA export? (y/n): Start HEUREKA.SK export? (y/n): TALMO export skipped\n"
-            "ARUKERESO export skipped\nGRANDO export skipped\nVATERA export skipped\n"
-            "HEUREKA.SK export skipped\n" +
-                kClosing);
+  EXPECT_EQ(tool.out().find("Beginning"), std::string::npos) << tool.out();
+  EXPECT_TRUE(tool.out().ends_with("\nHEUREKA.SK export skipped\n" + kClosing)) << tool.out();
 }
 
 TEST_F(Faults, SecondRunInTheSameDirectoryStopsAtOnce) {
-  write_old_feeds(dir_.path());
-  const std::string answers = dir_.path() + "/answers.fifo";
-  ASSERT_EQ(::mkfifo(answers.c_str(), 0600), 0);
   // Held open for writing, so the first run waits at its first question, holding the lock.
-  const int writer = ::open(answers.c_str(), O_RDWR);
-  ASSERT_GE(writer, 0);
-  BackgroundTool first(dir_.path(), "<answers.fifo", {});
+  ASSERT_EQ(::mkfifo((dir_ + "/answers.fifo").c_str(), 0600), 0);
+  const int writer = ::open((dir_ + "/answers.fifo").c_str(), O_RDWR | O_CLOEXEC);
+  BackgroundTool first(dir_, "<answers.fifo");
   ASSERT_TRUE(first.wait_for_output("Start TALMO export? (y/n): ", 60));
-  const RunResult second = run_tool(dir_.path(), kAllYes);
+  const RunResult second = run_tool(dir_, kAllYes);
   EXPECT_EQ(second.exit_code, 1);
-  EXPECT_EQ(second.out, "Another run is working in " + dir_.path() + "\n");
-  const std::string all_no = "n\nn\nn\nn\nn\n\n";
-  ASSERT_EQ(::write(writer, all_no.data(), all_no.size()), static_cast<ssize_t>(all_no.size()));
+  EXPECT_EQ(second.out, "Another run is working in " + dir_ + "\n");
+  EXPECT_EQ(::write(writer, kAllNo.data(), kAllNo.size()), static_cast<ssize_t>(kAllNo.size()));
   ::close(writer);
   EXPECT_EQ(first.wait(60), 0);
-  expect_old_or_complete(0);
+  EXPECT_FALSE(file_exists(dir_ + "/export/hu/talmo.xml"));
 }
 
 TEST_F(Faults, VanishedConsoleReaderChangesNeitherFeedsNorExitStatus) {
-  place_tool(dir_.path());
-  write_file(dir_.path() + "/answers", kAllYes);
+  fs::copy_file(TALMO_EXECUTABLE, dir_ + "/talmo_software");
+  write_file(dir_ + "/answers", kAllYes);
   const RunResult run = run_process(
       {"/bin/sh", "-c", "{ ./talmo_software <answers; echo $? >status; } | head -c 10 >/dev/null"},
-      dir_.path(), "", {{"MYSQL_TCP_PORT", std::to_string(PrivateMariaDb::instance().port())}},
-      300);
+      dir_, "", {{"MYSQL_TCP_PORT", std::to_string(PrivateMariaDb::instance().port())}}, 300);
   EXPECT_EQ(run.exit_code, 0);
-  EXPECT_EQ(read_file(dir_.path() + "/status"), "0\n");
-  for (const Feed& feed : kFeeds)
-    expect_same_text(complete_[feed.file], read_file(dir_.path() + "/" + feed.file));
+  EXPECT_EQ(read_file(dir_ + "/status"), "0\n");
+  for (const auto& [file, third_item] : kFeeds)
+    expect_same_text(complete_[file], read_file(dir_ + "/" + file));
 }
 
 }  // namespace

@@ -6,197 +6,147 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
-#include <cerrno>
 #include <chrono>
 #include <cstdlib>
-#include <stdexcept>
+#include <filesystem>
 #include <system_error>
 #include <thread>
-
-extern char** environ;
 
 namespace talmo::testing {
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
-[[noreturn]] void throw_errno(const std::string& what) {
-  throw std::system_error(errno, std::generic_category(), what);
+// A fresh unnamed file holding `text`: a child never blocks on a full pipe, nor we on a child.
+int temporary_file(const std::string& text = "") {
+  const int fd = ::open("/tmp", O_TMPFILE | O_RDWR | O_CLOEXEC, 0600);
+  if (fd < 0 || ::pwrite(fd, text.data(), text.size(), 0) != static_cast<ssize_t>(text.size()))
+    throw std::system_error(errno, std::generic_category(), "temporary file");
+  return fd;
 }
 
-// mariadbd lives in /usr/sbin, which a test runner's PATH may lack.
-std::string find_program(const std::string& name) {
-  if (name.find('/') != std::string::npos)
-    return name;
-  const char* path = std::getenv("PATH");
-  const std::string dirs = std::string(path != nullptr ? path : "") +
-                           ":/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin";
-  std::size_t start = 0;
-  while (start <= dirs.size()) {
-    std::size_t end = dirs.find(':', start);
-    if (end == std::string::npos)
-      end = dirs.size();
-    const std::string candidate = dirs.substr(start, end - start) + "/" + name;
-    if (end > start && ::access(candidate.c_str(), X_OK) == 0)
-      return candidate;
-    start = end + 1;
-  }
-  return name;
+std::string read_all(int fd) {
+  std::string text(static_cast<std::size_t>(::lseek(fd, 0, SEEK_END)), '\0');
+  const bool read = ::pread(fd, text.data(), text.size(), 0) == static_cast<ssize_t>(text.size());
+  ::close(fd);
+  return read ? text : throw std::runtime_error("cannot read a child's output");
 }
 
-std::vector<std::string> environment_with(const Environment& additions) {
-  Environment merged;
-  for (char** entry = environ; *entry != nullptr; ++entry) {
-    const std::string text = *entry;
-    const std::size_t equals = text.find('=');
-    if (equals != std::string::npos)
-      merged[text.substr(0, equals)] = text.substr(equals + 1);
-  }
-  for (const auto& [name, value] : additions)
-    merged[name] = value;
-  std::vector<std::string> result;
-  for (const auto& [name, value] : merged)
-    result.push_back(name + "=" + value);
-  return result;
+// Copies the built tool into `dir` unless it is there; the environment it runs with there.
+Environment place_tool(const std::string& dir, Environment environment) {
+  if (!file_exists(dir + "/talmo_software"))
+    std::filesystem::copy_file(TALMO_EXECUTABLE, dir + "/talmo_software");
+  if (PrivateMariaDb::running())
+    environment.emplace("MYSQL_TCP_PORT", std::to_string(PrivateMariaDb::instance().port()));
+  return environment;
 }
 
-std::vector<char*> pointers(std::vector<std::string>& texts) {
-  std::vector<char*> result;
-  for (std::string& text : texts)
-    result.push_back(text.data());
-  result.push_back(nullptr);
-  return result;
-}
+}  // namespace
 
-// Moves `fd` onto `target` in the child; only async-signal-safe calls after fork.
-void place(int fd, int target) {
-  if (fd == target)
-    ::fcntl(fd, F_SETFD, 0);
-  else
-    ::dup2(fd, target);
-}
-
-// Forks and executes; the child's standard streams become `in`, `out` and `err`.
 pid_t spawn(const std::vector<std::string>& argv, const std::string& cwd,
             const Environment& additions, int in, int out, int err) {
-  std::vector<std::string> args = argv;
-  args[0] = find_program(argv[0]);
-  std::vector<std::string> env = environment_with(additions);
-  std::vector<char*> arg_pointers = pointers(args);
-  std::vector<char*> env_pointers = pointers(env);
-  const std::string failure = "cannot run " + args[0] + "\n";
+  // env(1) sets the variables and looks the program up on PATH, also where mariadbd lives.
+  const char* path = std::getenv("PATH");
+  std::vector<std::string> texts = {"/usr/bin/env",
+                                    "PATH=" + std::string(path ? path : "") + ":/usr/sbin:/sbin"};
+  for (const auto& [name, value] : additions)
+    texts.push_back(name + "=" + value);
+  texts.insert(texts.end(), argv.begin(), argv.end());
+  std::vector<char*> args;
+  for (std::string& text : texts)
+    args.push_back(text.data());
+  args.push_back(nullptr);
   const pid_t parent = ::getpid();
   const pid_t pid = ::fork();
   if (pid < 0)
-    throw_errno("fork");
-  if (pid == 0) {
+    throw std::system_error(errno, std::generic_category(), "fork");
+  if (pid == 0) {  // only async-signal-safe calls from here on
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     if (::getppid() != parent)
       ::_exit(127);
-    place(in, 0);
-    place(out, 1);
-    place(err, 2);
+    int fds[] = {in, out, err};
+    for (int& fd : fds)
+      fd = fd < 0 ? ::open("/dev/null", O_RDWR | O_CLOEXEC) : ::fcntl(fd, F_DUPFD_CLOEXEC, 10);
+    for (int target = 0; target < 3; ++target)
+      ::dup2(fds[target], target);
     ::close_range(3, ~0U, 0);
     ::signal(SIGPIPE, SIG_DFL);
-    sigset_t none;
-    ::sigemptyset(&none);
-    ::sigprocmask(SIG_SETMASK, &none, nullptr);
     if (cwd.empty() || ::chdir(cwd.c_str()) == 0)
-      ::execve(args[0].c_str(), arg_pointers.data(), env_pointers.data());
-    [[maybe_unused]] const ssize_t ignored = ::write(2, failure.data(), failure.size());
+      ::execv(args[0], args.data());
     ::_exit(127);
   }
   return pid;
 }
 
-int decode(int status) {
+std::optional<int> wait_process(pid_t pid, int seconds) {
+  const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(seconds);
+  int status = 0;
+  while (::waitpid(pid, &status, WNOHANG) == 0) {  // -1: already reaped
+    if (std::chrono::steady_clock::now() >= deadline)
+      return std::nullopt;
+    std::this_thread::sleep_for(std::chrono::milliseconds(5));
+  }
   return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
 }
 
-// A fresh unnamed temporary file for a child's input or output; -1 when none can be made.
-int temporary_file() {
-  const char* base = std::getenv("TMPDIR");
-  return ::open(base != nullptr && *base != '\0' ? base : "/tmp", O_TMPFILE | O_RDWR | O_CLOEXEC,
-                0600);
+int end_process(pid_t pid, int signal) {
+  if (pid <= 0)
+    return -1;
+  if (const std::optional<int> code = wait_process(pid, 0))
+    return *code;
+  ::kill(pid, signal);
+  return *wait_process(pid, 1 << 20);
 }
-
-std::string read_all(int fd) {
-  std::string text;
-  char buffer[65536];
-  ::lseek(fd, 0, SEEK_SET);
-  for (ssize_t got; (got = ::read(fd, buffer, sizeof buffer)) != 0;) {
-    if (got > 0)
-      text.append(buffer, static_cast<std::size_t>(got));
-    else if (errno != EINTR)
-      break;
-  }
-  return text;
-}
-
-// Waits up to the deadline for `pid` to end; nullopt when it had to be killed.
-std::optional<int> wait_until(pid_t pid, Clock::time_point deadline) {
-  std::chrono::milliseconds pause(1);
-  while (Clock::now() < deadline) {
-    if (const std::optional<int> code = poll_process(pid))
-      return code;
-    std::this_thread::sleep_for(pause);
-    pause = std::min(pause * 2, std::chrono::milliseconds(20));
-  }
-  return std::nullopt;
-}
-
-}  // namespace
 
 RunResult run_process(const std::vector<std::string>& argv, const std::string& cwd,
                       const std::string& stdin_text, const Environment& additions,
                       int timeout_seconds) {
-  // Files rather than pipes: the child never blocks on a full pipe and we never on a slow child.
-  const int in = temporary_file(), out = temporary_file(), err = temporary_file();
-  if (in < 0 || out < 0 || err < 0 ||
-      ::write(in, stdin_text.data(), stdin_text.size()) != static_cast<ssize_t>(stdin_text.size()))
-    throw_errno("temporary file for a child process");
-  ::lseek(in, 0, SEEK_SET);
+  const int in = temporary_file(stdin_text), out = temporary_file(), err = temporary_file();
   const pid_t pid = spawn(argv, cwd, additions, in, out, err);
-  RunResult result;
-  const std::optional<int> code =
-      wait_until(pid, Clock::now() + std::chrono::seconds(timeout_seconds));
-  result.timed_out = !code;
-  result.exit_code = code ? *code : wait_process(pid, 0);
-  result.out = read_all(out);
-  result.err = read_all(err);
-  for (const int fd : {in, out, err})
-    ::close(fd);
-  return result;
-}
-
-pid_t start_process(const std::vector<std::string>& argv, const std::string& log_path) {
-  const int in = ::open("/dev/null", O_RDONLY | O_CLOEXEC);
-  const int log = ::open(log_path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644);
-  if (in < 0 || log < 0)
-    throw_errno("open " + log_path);
-  const pid_t pid = spawn(argv, "", {}, in, log, log);
   ::close(in);
-  ::close(log);
-  return pid;
+  const std::optional<int> code = wait_process(pid, timeout_seconds);
+  return {code ? *code : end_process(pid, SIGKILL), read_all(out), read_all(err), !code};
 }
 
-std::optional<int> poll_process(pid_t pid) {
-  int status = 0;
-  if (::waitpid(pid, &status, WNOHANG) == pid)
-    return decode(status);
-  return std::nullopt;
+RunResult run_tool(const std::string& dir, const std::string& stdin_text,
+                   const std::vector<std::string>& args, const Environment& environment) {
+  std::vector<std::string> argv = {dir + "/talmo_software"};
+  argv.insert(argv.end(), args.begin(), args.end());
+  return run_process(argv, dir, stdin_text, place_tool(dir, environment), 120);
 }
 
-int wait_process(pid_t pid, int timeout_seconds) {
-  if (const std::optional<int> code =
-          wait_until(pid, Clock::now() + std::chrono::seconds(timeout_seconds)))
-    return *code;
-  ::kill(pid, SIGKILL);
-  int status = 0;
-  while (::waitpid(pid, &status, 0) < 0 && errno == EINTR) {
+BackgroundTool::BackgroundTool(const std::string& dir, const std::string& input,
+                               const Environment& environment)
+    : dir_(dir) {
+  pid_ = spawn({"/bin/sh", "-c", "exec ./talmo_software " + input + " >out.txt 2>err.txt"}, dir,
+               place_tool(dir, environment), -1, -1, -1);
+}
+
+BackgroundTool::~BackgroundTool() {
+  if (!exit_code_)
+    end_process(pid_, SIGKILL);
+}
+
+bool BackgroundTool::wait_for_output(const std::string& text, int seconds) {
+  for (int tries = 0; tries < seconds * 200 && !exit_code_; ++tries) {
+    if (out().find(text) != std::string::npos)
+      return true;
+    exit_code_ = wait_process(pid_, 0);
+    std::this_thread::sleep_for(std::chrono::milliseconds(5));
   }
-  return decode(status);
+  return out().find(text) != std::string::npos;
+}
+
+void BackgroundTool::send(int signal) const {
+  ::kill(pid_, signal);
+}
+
+int BackgroundTool::wait(int seconds) {
+  if (!exit_code_ && !(exit_code_ = wait_process(pid_, seconds)))
+    exit_code_ = end_process(pid_, SIGKILL);
+  return *exit_code_;
+}
+
+std::string BackgroundTool::out() const {
+  return file_exists(dir_ + "/out.txt") ? read_file(dir_ + "/out.txt") : "";
 }
 
 }  // namespace talmo::testing

@@ -3,13 +3,12 @@
 // Helpers shared by every test program: a private MariaDB server, temporary directories, file
 // access, captured console output, running the built tool and comparing long texts.
 
-#include <sys/types.h>
 #include <unistd.h>
 
+#include <iostream>
 #include <map>
 #include <optional>
 #include <sstream>
-#include <streambuf>
 #include <string>
 #include <vector>
 
@@ -20,58 +19,49 @@ namespace talmo::testing {
 // Variables added to (or replacing those of) a child process's inherited environment.
 using Environment = std::map<std::string, std::string>;
 
-// One private, throwaway MariaDB server per test process, listening on 127.0.0.1 at a free port
-// and on a socket in its own temporary directory. It holds the database uj_db and the shop's
-// login exprtr / "T7d3wq415M" (from '%' and 'localhost'). Stopped and deleted at process end.
+// The whole file; throws std::runtime_error when it cannot be read.
+std::string read_file(const std::string& path);
+
+// One throwaway MariaDB server per test process on 127.0.0.1 at a free port, with the database
+// uj_db and the shop's login exprtr / "T7d3wq415M".
 class PrivateMariaDb {
  public:
-  // The process's server, started on first use (a few seconds). Call it before the first
-  // Connection is opened: it sets MYSQL_TCP_PORT, which the client library reads only once, when
-  // it initialises. Throws std::runtime_error with the server's error log tail if it cannot start.
+  // The process's server, started on first use, before the first Connection is opened (it sets
+  // MYSQL_TCP_PORT). Throws std::runtime_error with the server's log if it cannot start.
   static PrivateMariaDb& instance();
-  // Whether instance() has started the server in this process.
-  static bool running();
-
+  static bool running() { return running_; }
   int port() const { return port_; }
-  std::string socket_path() const { return directory_ + "/sock"; }
 
-  // Runs `sql` as root in uj_db through the mariadb command-line client (UTF-8 on the wire).
-  // Throws std::runtime_error with the client's error output when any statement fails.
-  void run_sql(const std::string& sql) const;
-  void run_sql_file(const std::string& path) const;
-  // Drops and recreates uj_db and loads db/schema.sql into it: every table empty.
+  // Runs `sql` as root in uj_db (UTF-8 on the wire); throws with the client's errors.
+  void run_sql(const std::string& sql) const { run_client("USE uj_db;\n" + sql); }
+  void run_sql_file(const std::string& path) const { run_sql(read_file(path)); }
+  // Drops and recreates uj_db from db/schema.sql: every table empty.
   void reset_database() const;
-
-  // Sends `signal` to the server process: SIGSTOP freezes it, SIGCONT thaws it, SIGKILL kills it.
+  // SIGSTOP freezes the server, SIGCONT thaws it, SIGKILL kills it.
   void signal_server(int signal) const;
-  // Starts the server again after it was killed, on a new port (MYSQL_TCP_PORT follows). Tables
-  // written shortly before the kill may have lost rows: reload what a test needs.
+  // Starts a killed server again on a new port (MYSQL_TCP_PORT follows); reload its tables.
   void restart();
 
  private:
   PrivateMariaDb();
   ~PrivateMariaDb();
-  PrivateMariaDb(const PrivateMariaDb&) = delete;
-  PrivateMariaDb& operator=(const PrivateMariaDb&) = delete;
+  void launch();  // on another port when the one chosen was taken meanwhile
+  void stop(int signal);
+  void run_client(const std::string& sql) const;
 
-  void start();
-  void stop();
-  // Starts mariadbd on a fresh port; false when the port was taken meanwhile.
-  bool start_server();
-  void run_client(const std::string& sql, const std::string& database) const;
-
+  static inline bool running_ = false;
   std::string directory_;
   int port_ = 0;
+  int launches_ = 0;
   pid_t pid_ = -1;
   pid_t owner_ = ::getpid();
 };
 
-// The tool's own connection, logged in as exprtr to 127.0.0.1 / uj_db of the private server, and
-// a cursor on it: the way integration tests reach the database. Starts the server first, so it
-// may be a test's first database object. Throws DatabaseError when the login fails.
+// The tool's own connection as exprtr to the private server (started first), and a cursor.
 struct DbSession {
-  DbSession();
-
+  DbSession() : server(PrivateMariaDb::instance()), query(connection) {
+    connection.open("127.0.0.1", "exprtr", "T7d3wq415M", "uj_db");
+  }
   PrivateMariaDb& server;
   Connection connection;
   Query query;
@@ -82,50 +72,33 @@ class TempDir {
  public:
   TempDir();
   ~TempDir();
-  TempDir(const TempDir&) = delete;
-  TempDir& operator=(const TempDir&) = delete;
-
-  // The directory's absolute path, without a trailing "/".
   const std::string& path() const { return path_; }
 
  private:
   std::string path_;
 };
 
-// The whole file, byte for byte; throws std::runtime_error when it cannot be read.
-std::string read_file(const std::string& path);
-// Replaces the file with exactly `content`, creating missing parent directories; throws on failure.
+// Replaces the file with `content`, creating missing parent directories; throws on failure.
 void write_file(const std::string& path, const std::string& content);
-// The permission bits of the file at `path` (links followed).
-mode_t mode_of(const std::string& path);
-// How many entries the directory holds.
-std::size_t entries_in(const std::string& dir);
-// Whether anything (file, directory, link) exists at `path`.
-bool file_exists(const std::string& path);
-// The shop's default site settings, as the expected files and texts of the tests hold them.
-inline constexpr const char* kDefaultHostHu = "www.kelvor.hu";
-inline constexpr const char* kDefaultHostSk = "www.kelvor.sk";
-inline constexpr const char* kDefaultHostCz = "www.kelvor.cz";
-inline constexpr const char* kDefaultArticleBase = "https://www.kelvor.hu";
-// Whether the build was configured with those defaults (the CMake cache variables
-// TALMO_SITE_HOST_HU, TALMO_SITE_HOST_SK, TALMO_SITE_HOST_CZ and TALMO_HU_ARTICLE_BASE).
+mode_t mode_of(const std::string& path);         // the permission bits, links followed
+std::size_t entries_in(const std::string& dir);  // how many entries the directory holds
+bool file_exists(const std::string& path);       // anything: file, directory, link
+// Whether the build has the shop's default site hosts, which the expected files name.
 bool built_with_default_site();
 // The shop's login as a first run writes it into config.dat.
 inline constexpr const char* kDefaultConfig = "127.0.0.1\n3306\nexprtr\nT7d3wq415M\nuj_db\n";
-// Sets `dir` up as the tool's directory in the shop: config.dat with the default login (which
-// reaches the private server) and the folders export/hu and export/sk.
+// Sets `dir` up as the tool's directory: config.dat with the default login, export/hu, export/sk.
 void prepare_run_directory(const std::string& dir);
-// The path of `relative` inside the source tree (TALMO_SOURCE_DIR + "/" + relative).
-std::string source_path(const std::string& relative);
+// The path of `relative` inside the source tree.
+inline std::string source_path(const std::string& relative) {
+  return std::string(TALMO_SOURCE_DIR) + "/" + relative;
+}
 
-// Collects everything written to std::cout while alive; the console is restored on destruction.
+// Collects everything written to std::cout while alive.
 class CapturedStdout {
  public:
-  CapturedStdout();
-  ~CapturedStdout();
-  CapturedStdout(const CapturedStdout&) = delete;
-  CapturedStdout& operator=(const CapturedStdout&) = delete;
-
+  CapturedStdout() : previous_(std::cout.rdbuf(buffer_.rdbuf())) {}
+  ~CapturedStdout() { std::cout.rdbuf(previous_); }
   std::string text() const { return buffer_.str(); }
 
  private:
@@ -136,35 +109,27 @@ class CapturedStdout {
 // What a child process did. `exit_code` is its exit status, or 128 + the signal that ended it.
 struct RunResult {
   int exit_code = -1;
-  std::string out;
-  std::string err;
+  std::string out, err;
   bool timed_out = false;
 };
 
-// Copies the built tool to dir/talmo_software unless it is there; returns that path.
-std::string place_tool(const std::string& dir);
-
-// Runs the built tool as dir/talmo_software (copied there unless present) with `dir` as working
-// directory, `stdin_text` as its whole input, and MYSQL_TCP_PORT pointing at the private server
-// when that runs; `environment` is applied last. Killed after 120 seconds.
+// Runs the built tool as dir/talmo_software (copied there unless present) in `dir` with
+// `stdin_text` as its input, MYSQL_TCP_PORT at the private server, then `environment`.
 RunResult run_tool(const std::string& dir, const std::string& stdin_text,
                    const std::vector<std::string>& args = {}, const Environment& environment = {});
 
-// The built tool running in the background in `dir`, as a scheduler would start it: standard
-// input from the shell redirection `input` (e.g. "< answers.txt" or "<&-"), its outputs into
-// dir/out.txt and dir/err.txt, MYSQL_TCP_PORT pointing at the private server. Killed when the
-// object goes out of scope while it still runs.
+// The built tool run in `dir` in the background, input from the shell redirection `input` (e.g.
+// "<answers.txt" or "<&-"), outputs into dir/out.txt and err.txt. Killed on destruction.
 class BackgroundTool {
  public:
-  BackgroundTool(const std::string& dir, const std::string& input, const Environment& environment);
+  BackgroundTool(const std::string& dir, const std::string& input,
+                 const Environment& environment = {});
   ~BackgroundTool();
-  BackgroundTool(const BackgroundTool&) = delete;
-  BackgroundTool& operator=(const BackgroundTool&) = delete;
 
-  // Waits until standard output holds `text` (true), or the tool ended or `seconds` passed.
-  bool wait_for_output(const std::string& text, int seconds) const;
+  // Whether standard output holds `text` before the tool ends or `seconds` pass.
+  bool wait_for_output(const std::string& text, int seconds);
   void send(int signal) const;
-  // The exit code (128 + signal when killed) once ended; killed after `seconds`.
+  // The exit code once ended; killed after `seconds`.
   int wait(int seconds);
   std::string out() const;
 
@@ -174,22 +139,17 @@ class BackgroundTool {
   std::optional<int> exit_code_;
 };
 
-// Replaces every clock reading "hh:nn:ss.z" (two figures, ":", two, ":", two, ".", one to three
-// figures) by "<time>", so outputs with elapsed times can be compared whole.
+// Replaces every clock reading "hh:nn:ss.z" (1 to 3 figures after the dot) by "<time>".
 std::string mask_times(const std::string& text);
 
-// Fails the calling test when the texts differ, naming the first differing line and column with
-// both versions of that line ("\r", "\t" and other control bytes made visible). The failure is
-// reported at the caller's line (clang 14 has no std::source_location, hence the builtins).
+// Fails the calling test (at the caller's line) when the texts differ, showing both versions
+// of the first differing line, control bytes made visible.
 void expect_same_text(const std::string& expected, const std::string& actual,
                       const char* file = __builtin_FILE(), int line = __builtin_LINE());
 
 }  // namespace talmo::testing
 
-// Skips the calling test, with a message saying why, in a build configured with other site
-// settings: what it expects names the shop's default hosts.
-#define TALMO_NEEDS_DEFAULT_SITE()                                                             \
-  if (!::talmo::testing::built_with_default_site())                                            \
-  GTEST_SKIP() << "needs the shop's default site settings (TALMO_SITE_HOST_HU=www.kelvor.hu, " \
-                  "TALMO_SITE_HOST_SK=www.kelvor.sk, TALMO_SITE_HOST_CZ=www.kelvor.cz, "       \
-                  "TALMO_HU_ARTICLE_BASE=https://www.kelvor.hu)"
+// Skips the calling test in a build configured with other site hosts.
+#define TALMO_NEEDS_DEFAULT_SITE()                  \
+  if (!::talmo::testing::built_with_default_site()) \
+  GTEST_SKIP() << "needs the shop's default site settings (www.kelvor.hu/.sk/.cz)"
