@@ -28,8 +28,10 @@ std::string only_for_grando(Query& query, const std::string& idx, const std::str
   return ISONLYFORGRANDO(query, idx) ? "true" : "false";
 }
 
-#define FIELD(name, site) \
-  { #name, name, site }
+#define HU(name) \
+  { #name, name, "hu" }
+#define SK(name) \
+  { #name, name, "sk" }
 
 TEST(QuoteInId, EveryFieldPrintsItsErrorLinesAndGivesItsDefault) {
   TALMO_NEEDS_DEFAULT_SITE();
@@ -40,44 +42,42 @@ TEST(QuoteInId, EveryFieldPrintsItsErrorLinesAndGivesItsDefault) {
     const char* name;
     Field field;
     const char* site;
-  } fields[] = {
-      FIELD(published, "hu"),
-      FIELD(only_for_grando, "hu"),
-      FIELD(GENERATE_TALMO_CIKKSZAM, "hu"),
-      FIELD(GENERATE_TALMO_TERMEKNEV, "hu"),
-      FIELD(GENERATE_TALMO_TERMEKLEIRAS_SHORT, "hu"),
-      FIELD(GENERATE_TALMO_BRUTTO_AR, "hu"),
-      FIELD(GENERATE_TALMO_FOTOLINK, "hu"),
-      FIELD(GENERATE_TALMO_TERMEKLINK, "hu"),
-      FIELD(GENERATE_ARUKERESO_MANUFACTURER, "hu"),
-      FIELD(GENERATE_ARUKERESO_NAME, "hu"),
-      FIELD(GENERATE_ARUKERESO_PRODUCT_URL, "hu"),
-      FIELD(GENERATE_ARUKERESO_PRICE, "hu"),
-      FIELD(GENERATE_ARUKERESO_IMAGE_URL, "hu"),
-      FIELD(GENERATE_ARUKERESO_DESCRIPTION, "hu"),
-      FIELD(GENERATE_ARUKERESO_PRODUCT_NUMBER, "hu"),
-      FIELD(GENERATE_GRANDO_NAME, "hu"),
-      FIELD(GENERATE_GRANDO_PRODUCT_ID, "hu"),
-      FIELD(GENERATE_GRANDO_PRICE, "hu"),
-      FIELD(GENERATE_GRANDO_PAGE_LINK, "hu"),
-      FIELD(GENERATE_GRANDO_DISCOUNT_PRICE, "hu"),
-      FIELD(GENERATE_GRANDO_WARRANTYF, "hu"),
-      FIELD(GENERATE_GRANDO_IMAGE_URL, "hu"),
-      FIELD(GENERATE_GRANDO_CATEGORY, "hu"),
-      FIELD(GENERATE_VATERA_05_KIKIALTASI_AR, "hu"),
-      FIELD(GENERATE_VATERA_18_GARANCIA, "hu"),
-      FIELD(GENERATE_VATERA_21_KEPEK2, "hu"),
-      FIELD(GENERATE_VATERA_25_SAJAT_TERMEK_AZONOSITO, "hu"),
-      FIELD(GENERATE_HEUREKASK_ITEM_ID, "sk"),
-      FIELD(GENERATE_HEUREKASK_PRODUCTNAME, "sk"),
-      FIELD(GENERATE_HEUREKASK_PRODUCT, "sk"),
-      FIELD(GENERATE_HEUREKASK_DESCRIPTION, "sk"),
-      FIELD(GENERATE_HEUREKASK_URL, "sk"),
-      FIELD(GENERATE_HEUREKASK_IMGURL_ALTERNATIVE, "sk"),
-      FIELD(GENERATE_HEUREKASK_PRICE_VAT, "sk"),
-      FIELD(GENERATE_HEUREKASK_PARAM, "sk"),
-      FIELD(GENERATE_HEUREKASK_CATEGORYTEXT, "sk"),
-  };
+  } fields[] = {HU(published),
+                HU(only_for_grando),
+                HU(GENERATE_TALMO_CIKKSZAM),
+                HU(GENERATE_TALMO_TERMEKNEV),
+                HU(GENERATE_TALMO_TERMEKLEIRAS_SHORT),
+                HU(GENERATE_TALMO_BRUTTO_AR),
+                HU(GENERATE_TALMO_FOTOLINK),
+                HU(GENERATE_TALMO_TERMEKLINK),
+                HU(GENERATE_ARUKERESO_MANUFACTURER),
+                HU(GENERATE_ARUKERESO_NAME),
+                HU(GENERATE_ARUKERESO_PRODUCT_URL),
+                HU(GENERATE_ARUKERESO_PRICE),
+                HU(GENERATE_ARUKERESO_IMAGE_URL),
+                HU(GENERATE_ARUKERESO_DESCRIPTION),
+                HU(GENERATE_ARUKERESO_PRODUCT_NUMBER),
+                HU(GENERATE_GRANDO_NAME),
+                HU(GENERATE_GRANDO_PRODUCT_ID),
+                HU(GENERATE_GRANDO_PRICE),
+                HU(GENERATE_GRANDO_PAGE_LINK),
+                HU(GENERATE_GRANDO_DISCOUNT_PRICE),
+                HU(GENERATE_GRANDO_WARRANTYF),
+                HU(GENERATE_GRANDO_IMAGE_URL),
+                HU(GENERATE_GRANDO_CATEGORY),
+                HU(GENERATE_VATERA_05_KIKIALTASI_AR),
+                HU(GENERATE_VATERA_18_GARANCIA),
+                HU(GENERATE_VATERA_21_KEPEK2),
+                HU(GENERATE_VATERA_25_SAJAT_TERMEK_AZONOSITO),
+                SK(GENERATE_HEUREKASK_ITEM_ID),
+                SK(GENERATE_HEUREKASK_PRODUCTNAME),
+                SK(GENERATE_HEUREKASK_PRODUCT),
+                SK(GENERATE_HEUREKASK_DESCRIPTION),
+                SK(GENERATE_HEUREKASK_URL),
+                SK(GENERATE_HEUREKASK_IMGURL_ALTERNATIVE),
+                SK(GENERATE_HEUREKASK_PRICE_VAT),
+                SK(GENERATE_HEUREKASK_PARAM),
+                SK(GENERATE_HEUREKASK_CATEGORYTEXT)};
   std::string console;
   for (const auto& f : fields) {
     CapturedStdout out;

@@ -25,14 +25,11 @@ TEST(PriceRounding, SiteEndingsInTheGeneralShortestForm) {
            {2147483647.4, "hu", "2147483690"},    // past 32 bits after the ending
            {-2147483648.5, "hu", "-2147483690"},  // ties to even: the lowest 32-bit number
            {10.5, "sk", "10.9"},                  // euro: ties to even, plus 0.90
-           {11.5, "sk", "12.9"},
            {-2.5, "sk", "-1.1"},
-           {0.49999999999999994, "sk", "0.9"},  // below the half, though + 0.5 would give 1
-           {12344.5, "cz", "12344"},            // whole crowns, ties to even, past 32 bits too
-           {3e9, "cz", "3000000000"},
-           {1234.5678, "pl", "1234.5678"},  // any other site: as calculated
-           {0.1 + 0.2, "pl", "0.3"},        // 15 significant figures, no exponent
-           {2.0 / 3, "pl", "0.666666666666667"},
+           {0.49999999999999994, "sk", "0.9"},    // below the half, though + 0.5 would give 1
+           {3000000000.5, "cz", "3000000000"},    // whole crowns, ties to even, past 32 bits
+           {1234.5678, "pl", "1234.5678"},        // any other site: as calculated
+           {2.0 / 3, "pl", "0.666666666666667"},  // 15 significant figures, no exponent
            {1e-7, "pl", "0.0000001"},
            {999999999999999.9, "pl", "1000000000000000"},
            {123456789012345678.0, "pl", "123456789012346000"},
