@@ -50,8 +50,7 @@ TEST(SpecBuilders, EachBuilderOverItsColumn) {
                 {"|DDR4|2400 MHz", " DDR4 2400 MHz"}});
   expect_built("BUILD_KIJELZO", BUILD_KIJELZO,
                {{"|HD||0|1|0|", " HD matt"},
-                {"15.6|HD|1366x768|igen|2|1 |", "15.6 HD (1366x768)"},  // flags are "1" only
-                {"15.6|HD||0|0|0||x", "15.6 HD"}});
+                {"15.6|HD|1366x768|igen|2|1 |", "15.6 HD (1366x768)"}});  // flags are "1" only
   expect_built("BUILD_PROCESSZOR", BUILD_PROCESSZOR,
                {{"AMD|A6", "AMD A6 "},
                 {"Intel|Core i3|2.0 GHz||abc|", "Intel Core i3 (2.0 GHz)"},

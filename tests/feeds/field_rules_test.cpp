@@ -31,7 +31,6 @@ TEST(GrandoCategories, NumbersFollowBrandGroupAndSeries) {
       {"Samsung", "Ativ", "Tablet", "8296"},  // the group sets nothing, the brand default stays
       // series keys, the last match in table order winning
       {"Apple", "MacBook Pro", "Laptop", "9607"},
-      {"Apple", "iMac 27", aio, "9308"},
       {"HP", "Pavilion Elite", aio, "9329"},
       // one-letter keys match any series holding the letter
       {"Asus", "N56VZ", "Laptop", "9611"},
@@ -41,7 +40,6 @@ TEST(GrandoCategories, NumbersFollowBrandGroupAndSeries) {
       {"Acer", "TravelMate", "Laptop Tablet", "9946"},
       // the first brand in the table decides alone
       {"Acer / Packard Bell", "", "Laptop", "9602"},
-      {"Toshiba by Dell", "Inspiron", "Laptop", "9641"},
   };
   for (const Case& c : cases) {
     // The second kind is handed over but never looked at.
@@ -61,7 +59,6 @@ TEST(GrandoAddPercent, RaisesRoundsAndEndsIn90) {
            {4, "99990", "103990"},           // 103989.6 rounds to a price already ending in 90
            {4, "2147483647", "2233382990"},  // beyond 32 bits after the raise
            {4, "1234.5", "1234.5"},          // not a 32-bit whole number: returned as it came
-           {4, "", ""},
            {4, "5", "5"},  // a single figure (sign not counted) is left as computed
            {4, "-100", "-190"},
            {50, "3", "4"},  // 4.5: ties go to the even neighbour
@@ -90,7 +87,6 @@ TEST(HeurekaPriceDecimals, WritesCentsWithADecimalComma) {
            {"12.€", "12,€0"},
            {"12.€€", "12,€€"},
            {"Á", "Á0"},
-           {"ab", "ab"},
            {"💶", "💶0"},
        }) {
     EXPECT_EQ(heureka_price_decimals(c.price), c.written) << c.price;
@@ -99,7 +95,7 @@ TEST(HeurekaPriceDecimals, WritesCentsWithADecimalComma) {
 
 const std::string kDeclaration = "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n";
 
-TEST(Converters, HeaderOnlyTablesWriteTheBareFrameWithoutProgress) {
+TEST(Converters, HeaderOnlyTablesWriteTheBareFrameAndTheTalmoPriceGoesUnescaped) {
   TempDir dir;
   const std::string PATH = dir.path() + "/";
   write_file(PATH + "export/hu/.keep", "");
@@ -112,24 +108,18 @@ TEST(Converters, HeaderOnlyTablesWriteTheBareFrameWithoutProgress) {
   GRANDO2XML(grando);
   HEUREKASK2XML(heureka, PATH);
   EXPECT_EQ(out.text(), "Saving File: " + PATH + "export/hu/talmo.xml\nSaving Output File: " +
-                            PATH + "export/sk/heureka.xml\n");
+                            PATH + "export/sk/heureka.xml\n");  // no progress lines
   EXPECT_EQ(read_file(PATH + "export/hu/talmo.xml"),
             kDeclaration + "<termeklista>\n</termeklista>\n");
   EXPECT_EQ(read_file(PATH + "export/hu/grando.xml"), kDeclaration + "<products>\n</products>\n");
   EXPECT_EQ(read_file(PATH + "export/sk/heureka.xml"), kDeclaration + "<SHOP>\n</SHOP>\n");
-}
 
-TEST(Converters, TalmoPriceIsWrittenUnescaped) {
-  TempDir dir;
-  const std::string PATH = dir.path() + "/";
-  write_file(PATH + "export/hu/.keep", "");
-  XmlFeedFile file(PATH + "export/hu/talmo.xml", talmo_layout());
+  XmlFeedFile priced(PATH + "export/hu/talmo.xml", talmo_layout());
   ColumnTable TALMOP;
-  file.attach(TALMOP);
+  priced.attach(TALMOP);
   GENERATE_TALMO_HEADER(TALMOP);
   add_item_row(TALMOP, {"a", "n", "d", "1 & <2>", "f", "l", "1 munkanap", "890"});
-  CapturedStdout out;
-  TALMO2XML(file, PATH);
+  TALMO2XML(priced, PATH);
   EXPECT_NE(read_file(PATH + "export/hu/talmo.xml").find("\t\t<ar>1 & <2></ar>\n"),
             std::string::npos);
 }

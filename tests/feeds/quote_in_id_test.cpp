@@ -3,6 +3,9 @@
 // the default it gives, in column order, compared whole with tests/feeds/expected/quote_in_id.txt.
 #include <gtest/gtest.h>
 
+#include <tuple>
+#include <vector>
+
 #include "description/long_description.h"
 #include "description/short_description.h"
 #include "feeds/arukereso.h"
@@ -38,52 +41,48 @@ TEST(QuoteInId, EveryFieldPrintsItsErrorLinesAndGivesItsDefault) {
   DbSession db;
   db.server.reset_database();
   db.server.run_sql_file(source_path("tests/e2e/fixtures/catalogue.sql"));
-  const struct {
-    const char* name;
-    Field field;
-    const char* site;
-  } fields[] = {HU(published),
-                HU(only_for_grando),
-                HU(GENERATE_TALMO_CIKKSZAM),
-                HU(GENERATE_TALMO_TERMEKNEV),
-                HU(GENERATE_TALMO_TERMEKLEIRAS_SHORT),
-                HU(GENERATE_TALMO_BRUTTO_AR),
-                HU(GENERATE_TALMO_FOTOLINK),
-                HU(GENERATE_TALMO_TERMEKLINK),
-                HU(GENERATE_ARUKERESO_MANUFACTURER),
-                HU(GENERATE_ARUKERESO_NAME),
-                HU(GENERATE_ARUKERESO_PRODUCT_URL),
-                HU(GENERATE_ARUKERESO_PRICE),
-                HU(GENERATE_ARUKERESO_IMAGE_URL),
-                HU(GENERATE_ARUKERESO_DESCRIPTION),
-                HU(GENERATE_ARUKERESO_PRODUCT_NUMBER),
-                HU(GENERATE_GRANDO_NAME),
-                HU(GENERATE_GRANDO_PRODUCT_ID),
-                HU(GENERATE_GRANDO_PRICE),
-                HU(GENERATE_GRANDO_PAGE_LINK),
-                HU(GENERATE_GRANDO_DISCOUNT_PRICE),
-                HU(GENERATE_GRANDO_WARRANTYF),
-                HU(GENERATE_GRANDO_IMAGE_URL),
-                HU(GENERATE_GRANDO_CATEGORY),
-                HU(GENERATE_VATERA_05_KIKIALTASI_AR),
-                HU(GENERATE_VATERA_18_GARANCIA),
-                HU(GENERATE_VATERA_21_KEPEK2),
-                HU(GENERATE_VATERA_25_SAJAT_TERMEK_AZONOSITO),
-                SK(GENERATE_HEUREKASK_ITEM_ID),
-                SK(GENERATE_HEUREKASK_PRODUCTNAME),
-                SK(GENERATE_HEUREKASK_PRODUCT),
-                SK(GENERATE_HEUREKASK_DESCRIPTION),
-                SK(GENERATE_HEUREKASK_URL),
-                SK(GENERATE_HEUREKASK_IMGURL_ALTERNATIVE),
-                SK(GENERATE_HEUREKASK_PRICE_VAT),
-                SK(GENERATE_HEUREKASK_PARAM),
-                SK(GENERATE_HEUREKASK_CATEGORYTEXT)};
+  const std::vector<std::tuple<const char*, Field, const char*>> fields = {
+      HU(published),
+      HU(only_for_grando),
+      HU(GENERATE_TALMO_CIKKSZAM),
+      HU(GENERATE_TALMO_TERMEKNEV),
+      HU(GENERATE_TALMO_TERMEKLEIRAS_SHORT),
+      HU(GENERATE_TALMO_BRUTTO_AR),
+      HU(GENERATE_TALMO_FOTOLINK),
+      HU(GENERATE_TALMO_TERMEKLINK),
+      HU(GENERATE_ARUKERESO_MANUFACTURER),
+      HU(GENERATE_ARUKERESO_NAME),
+      HU(GENERATE_ARUKERESO_PRODUCT_URL),
+      HU(GENERATE_ARUKERESO_PRICE),
+      HU(GENERATE_ARUKERESO_IMAGE_URL),
+      HU(GENERATE_ARUKERESO_DESCRIPTION),
+      HU(GENERATE_ARUKERESO_PRODUCT_NUMBER),
+      HU(GENERATE_GRANDO_NAME),
+      HU(GENERATE_GRANDO_PRODUCT_ID),
+      HU(GENERATE_GRANDO_PRICE),
+      HU(GENERATE_GRANDO_PAGE_LINK),
+      HU(GENERATE_GRANDO_DISCOUNT_PRICE),
+      HU(GENERATE_GRANDO_WARRANTYF),
+      HU(GENERATE_GRANDO_IMAGE_URL),
+      HU(GENERATE_GRANDO_CATEGORY),
+      HU(GENERATE_VATERA_05_KIKIALTASI_AR),
+      HU(GENERATE_VATERA_18_GARANCIA),
+      HU(GENERATE_VATERA_21_KEPEK2),
+      HU(GENERATE_VATERA_25_SAJAT_TERMEK_AZONOSITO),
+      SK(GENERATE_HEUREKASK_ITEM_ID),
+      SK(GENERATE_HEUREKASK_PRODUCTNAME),
+      SK(GENERATE_HEUREKASK_PRODUCT),
+      SK(GENERATE_HEUREKASK_DESCRIPTION),
+      SK(GENERATE_HEUREKASK_URL),
+      SK(GENERATE_HEUREKASK_IMGURL_ALTERNATIVE),
+      SK(GENERATE_HEUREKASK_PRICE_VAT),
+      SK(GENERATE_HEUREKASK_PARAM),
+      SK(GENERATE_HEUREKASK_CATEGORYTEXT)};
   std::string console;
-  for (const auto& f : fields) {
+  for (const auto& [name, field, site] : fields) {
     CapturedStdout out;
-    const std::string value = f.field(db.query, "1'", f.site);
-    console +=
-        "== " + std::string(f.name) + " (" + f.site + ")\n" + out.text() + "-> " + value + "\n";
+    const std::string value = field(db.query, "1'", site);
+    console += "== " + std::string(name) + " (" + site + ")\n" + out.text() + "-> " + value + "\n";
   }
   expect_same_text(read_file(source_path("tests/feeds/expected/quote_in_id.txt")), console);
 }

@@ -31,7 +31,6 @@ TEST(PriceRounding, SiteEndingsInTheGeneralShortestForm) {
            {1234.5678, "pl", "1234.5678"},        // any other site: as calculated
            {2.0 / 3, "pl", "0.666666666666667"},  // 15 significant figures, no exponent
            {1e-7, "pl", "0.0000001"},
-           {999999999999999.9, "pl", "1000000000000000"},
            {123456789012345678.0, "pl", "123456789012346000"},
            {-0.0, "pl", "0"},
            {std::numeric_limits<double>::infinity(), "pl", "INF"},

@@ -27,13 +27,10 @@ const std::vector<Row> kRows = {
     {100, "processzor", "Intel|Intel® Core i5-3210M|2.5 GHz", "Inteli5-3210M"},
     {101, "processzor", "AMD|E-450 Dual-Core", "E-450"},         // "dual-core" before "dual-"
     {102, "processzor", "Intel|Atom N2600 Core", "N2600 Core"},  // "core " needs its blank
-    {103, "processzor",
-     "AMD|E-450 \xC2\x99"
-     "250 APU",
-     "E-450 APU"},
     {104, "processzor",
      "x|Pentium Celeron Qualcomm Xeon Exynos OMAP ARM Turion II Phenom II Athlon II Fusion 2 Duo "
-     "Triple-42 T30S",
+     "Triple-42 \xC2\x99"
+     "250 T30S",
      "42"},
     {120, "kijelzo", "13.3\"\"", ", 13.3"},          // size without its inch signs
     {130, "merevlemez", "0||^1|1TB|HDD", ", +1TB"},  // every entry's size, present or not
