@@ -20,26 +20,22 @@ TEST(GrandoCategories, NumbersFollowBrandGroupAndSeries) {
   struct Case {
     std::string manufacturer, series, group, number;
   };
-  const std::string aio = "Minden egyben PC - AIO PC";
   const std::vector<Case> cases = {
-      // brand only: its default, or nothing when it has none
-      {"Toshiba", "", "Monitor", "9641"},
+      {"Toshiba", "", "Monitor", "9641"},  // brand only: its default, or nothing without one
       {"Acer", "", "Monitor", ""},
       {"Hewlett-Packard", "Pavilion", "Laptop", ""},  // "hp" does not occur in it
-      // group defaults
-      {"Acer", "Aspire One", "Netbook", "9599"},
+      {"Acer", "Aspire One", "Netbook", "9599"},      // the group's default
       {"Samsung", "Ativ", "Tablet", "8296"},  // the group sets nothing, the brand default stays
       // series keys, the last match in table order winning
       {"Apple", "MacBook Pro", "Laptop", "9607"},
-      {"HP", "Pavilion Elite", aio, "9329"},
+      {"HP", "Pavilion Elite", "Minden egyben PC - AIO PC", "9329"},
       // one-letter keys match any series holding the letter
       {"Asus", "N56VZ", "Laptop", "9611"},
       {"Asus", "UX31A", "Laptop", "9608"},
       {"MSI", "CX61", "Laptop", "9638"},
       // groups are tested one after another, so a group naming two kinds ends with the later one
       {"Acer", "TravelMate", "Laptop Tablet", "9946"},
-      // the first brand in the table decides alone
-      {"Acer / Packard Bell", "", "Laptop", "9602"},
+      {"Acer / Packard Bell", "", "Laptop", "9602"},  // the first brand in the table decides alone
   };
   for (const Case& c : cases) {
     // The second kind is handed over but never looked at.

@@ -68,8 +68,13 @@ std::string error_line(const std::string& statement) {
 }
 
 TEST_F(ProductLookups, PricesComputedFixedAndAborted) {
-  const std::string cz_tax = error_line(
-      "SELECT tax_value FROM taxes WHERE tax_country='cz' ORDER BY tax_id DESC LIMIT 1;");
+  // "pl" has no fixed-price column and no tax row: the tax text "" stops the computation.
+  const std::string pl_lines =
+      error_line(
+          "SELECT fix_ar_pl FROM fix_arak WHERE fix_product_id='1' AND "
+          "fix_product_type_id='0' ORDER BY fix_id DESC LIMIT 1;") +
+      error_line(
+          "SELECT tax_value FROM taxes WHERE tax_country='pl' ORDER BY tax_id DESC LIMIT 1;");
   const auto product_row = [](const std::string& id) {
     return error_line(
         "SELECT netto_darabar, uj_netto_darabar, kedvezmenyek, tobbletnyeresegek FROM "
@@ -86,15 +91,15 @@ TEST_F(ProductLookups, PricesComputedFixedAndAborted) {
            {"1", "hu", true, false, "409390", ""},
            // 1000 x 1.2 x 1 (no EUR->EUR row) x 1.1 = 1320; - 20 + 10 = 1310 -> 1310.9.
            {"1", "sk", true, false, "1310.9", ""},
-           // Fixed price ignored; currency EUR (newest over HUF):
-           // 500 x 1.27 x 310 x 1.2 (DE->HU) = 236220 -> 236290.
+           // 1000 x 1.21 x 25 x 1 (no HU->CZ row) = 30250; - 500 + 100 = 29850.
+           {"1", "cz", true, false, "29850", ""},
+           // Fixed price ignored; EUR over HUF: 500 x 1.27 x 310 x 1.2 (DE->HU) = 236220 -> 236290.
            {"2", "hu", false, false, "236290", ""},
            // An empty fixed-price column is not "0", so it is a fixed price, cleaned to "0".
            {"2", "cz", true, false, "0", ""},
            // 100.5 x 1.2 x 1 x 1.15 = 138.69 -> 139 + 0.90; '5000' alone has no sk item.
            {"3", "sk", true, false, "139.9", ""},
-           // Currency USD, its rate 'abc' unreadable, so 1.0:
-           // 1000 x 1.27 x 1 x 1.12 (unknown supplier: SK) = 1422.4 -> 1490.
+           // USD at the unreadable rate 'abc', so 1: 1000 x 1.27 x 1 x 1.12 (unknown: SK) -> 1490.
            {"4", "hu", true, false, "1490",
             error_line("SELECT er_value FROM exchange_rates WHERE er_from='USD' AND er_to='HUF' "
                        "ORDER BY er_id DESC LIMIT 1;")},
@@ -108,10 +113,9 @@ TEST_F(ProductLookups, PricesComputedFixedAndAborted) {
            {"99", "hu", true, false, "90", ""},  // no laptop_adatbazis row: 0 before the ending
            // Texts that are not numbers stop the computation: the line names the statement then
            // in the cursor, and the result stays "0" or the fixed price read, though set aside.
-           {"1", "cz", true, false, "0", cz_tax},
-           {"8", "cz", false, true, "99990", cz_tax},
-           {"9", "sk", true, false, "0", product_row("9")},  // discount '1.000,-'
-           {"9", "hu", true, false, "0", product_row("9")},  // extra profit 'sok'
+           {"1", "pl", true, false, "0", pl_lines},
+           {"8", "cz", false, true, "99990", product_row("8")},  // discount '1.000,-'
+           {"9", "hu", true, false, "0", product_row("9")},      // extra profit 'sok'
        }) {
     CapturedStdout out;
     EXPECT_EQ(GENERATE_PRICE_WITH_TAX(db_.query, c.id, c.site, c.check_fix_ar, c.use_old_price),
@@ -156,6 +160,7 @@ TEST_F(ProductLookups, KindOfAProduct) {
   CapturedStdout out;
   // LAPTOP and Tablet: the lower cat_id wins, named as the shop names its kinds.
   EXPECT_EQ(GETMAINCATEGORY(db_.query, "31"), "Laptop");
+  EXPECT_EQ(GETSECONDMAINCATEGORY(db_.query, "31"), "Tablet");
   EXPECT_EQ(GETMAINCATEGORY(db_.query, "32"), "Minden egyben PC - AIO PC");
   EXPECT_EQ(GETMAINCATEGORY(db_.query, "33"), "");  // Ultrabook is no kind
   EXPECT_EQ(GETMAINCATEGORY(db_.query, "43"), "");  // filed under a category that does not exist
