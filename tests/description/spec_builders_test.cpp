@@ -1,4 +1,5 @@
-// The specification field builders over stored column values, one table per builder.
+// The specification field builders over stored column values, one table per builder. The common
+// forms are in the golden catalogue's descriptions; these rows are the edges.
 #include "description/spec_builders.h"
 
 #include <gtest/gtest.h>
@@ -22,13 +23,10 @@ void expect_built(const char* name, Builder build, const std::vector<Case>& case
     EXPECT_EQ(build(c.stored), c.built) << name << " of '" << c.stored << "'";
 }
 
-TEST(SpecBuilders, BlankColumnGivesNothing) {
+TEST(SpecBuilders, EachBuilderOverItsColumn) {
   for (Builder build : {BUILD, BUILD_NUMBERED, BUILD_AKKUMULATOR, BUILD_GCARD, BUILD_MEREVLEMEZ,
                         BUILD_MEMORY, BUILD_KIJELZO, BUILD_PROCESSZOR})
-    EXPECT_EQ(build(" \t\r\n"), "");
-}
-
-TEST(SpecBuilders, EachBuilderOverItsColumn) {
+    EXPECT_EQ(build(" \t\r\n"), "");  // a blank column gives nothing
   expect_built("BUILD", BUILD,
                {{"1||3", "3 x Van"},
                 {"1|DVD-RW|2", "DVD-RW"},  // a stored text drops the count
@@ -36,39 +34,25 @@ TEST(SpecBuilders, EachBuilderOverItsColumn) {
                 {"0|x", ""},               // the count is not read without the flag
                 {"  1| Magyar |1 \r\n", " Magyar "}});
   expect_built("BUILD_NUMBERED", BUILD_NUMBERED,
-               {{"1|1|USB 2.0|2^1|1|USB 3.0|1", "2 x USB 2.0 + USB 3.0"},
-                {"1|0|x|1^1|1|HDMI|1", " + HDMI"},
-                {"0|1|x|1^0^1|1|z|1", " +  + z"},
-                {"1|1||3", "3 x Van"},
-                {"1|0", ""}});  // a flag other than 1 reads no further
-  expect_built("BUILD_AKKUMULATOR", BUILD_AKKUMULATOR,
-               {{"6 cellás|4400 mAh", "6 cellás+4400 mAh"}, {" a ||b| ", "a ++b+"}});
+               {{"1|0|x|1^1|1|HDMI|1", " + HDMI"}, {"0|1|x|1^0^1|1|z|1", " +  + z"}});
+  expect_built("BUILD_AKKUMULATOR", BUILD_AKKUMULATOR, {{" a ||b| ", "a ++b+"}});
   expect_built(
       "BUILD_GCARD", BUILD_GCARD,
       {{"1|NVIDIA|GTX 1050|4 GB|GDDR5|7000 MHz|2", "2 x NVIDIA GTX 1050 4 GB GDDR5 7000 MHz"},
-       {"1|Intel|UHD 620||||", "Intel UHD 620"},  // an empty count is 0
-       {"|NVIDIA", ""},                           // absent: the other positions are not read
+       {"|NVIDIA", ""},  // absent: the other positions are not read
        {"0|Intel|HD 620||||1^1|AMD|R5||||1", " + AMD R5"},
-       {"1|Intel|HD 620||||1^", "Intel HD 620 + "},
        {"1||GeForce 940MX||||1", " GeForce 940MX"}});
   expect_built("BUILD_MEREVLEMEZ", BUILD_MEREVLEMEZ,
                {{"1|500 GB|SSD||1^1|1 TB|HDD|5400 rpm|2", "500 GB SSD + 2 x 1 TB HDD 5400 rpm"},
-                {"0|500 GB|SSD||1^1|1 TB|HDD||1", " + 1 TB HDD"},
-                {"|500 GB", ""},
-                {"1||SSD||1", " SSD"}});
+                {"|500 GB", ""}});
   expect_built("BUILD_MEMORY", BUILD_MEMORY,
-               {{"8 GB;DDR4", "8 GB;DDR4"},
-                {"8 GB|DDR4", "8 GB DDR4"},  // missing positions read empty
+               {{"8 GB|DDR4", "8 GB DDR4"},  // missing positions read empty
                 {"|DDR4|2400 MHz", " DDR4 2400 MHz"}});
   expect_built("BUILD_KIJELZO", BUILD_KIJELZO,
-               {{"13.3|QHD+|3200x1800|1|0|1|IPS", "13.3 QHD+ (3200x1800) LED Touch IPS"},
-                {"|HD||0|1|0|", " HD matt"},
-                {"15.6|HD|1366x768|igen|2|1 |", "15.6 HD (1366x768)"},  // flags are "1" only
-                {"15.6|HD||0|0|0||x", "15.6 HD"}});
+               {{"|HD||0|1|0|", " HD matt"},
+                {"15.6|HD|1366x768|igen|2|1 |", "15.6 HD (1366x768)"}});  // flags are "1" only
   expect_built("BUILD_PROCESSZOR", BUILD_PROCESSZOR,
-               {{"Intel|Core i5-8250U|1.6 GHz|3.4 GHz|4|6 MB",
-                 "Intel Core i5-8250U (4 x 1.6 GHz / 3.4 GHz Turbo, 6 MB Cache)"},
-                {"AMD|A6", "AMD A6 "},
+               {{"AMD|A6", "AMD A6 "},
                 {"Intel|Core i3|2.0 GHz||abc|", "Intel Core i3 (2.0 GHz)"},
                 {"Intel|Celeron|1.1 GHz||1|", "Intel Celeron (1.1 GHz)"},
                 {"|Core i5|2.5 GHz||2|", "Core i5 (2 x 2.5 GHz)"},
@@ -78,28 +62,13 @@ TEST(SpecBuilders, EachBuilderOverItsColumn) {
 }
 
 TEST(SpecBuilders, MissingPositionOrNonNumberRaises) {
-  struct Bad {
-    Builder build;
-    std::string stored;
-    bool missing;  // ListIndexError, else ConversionError
-  };
-  for (const Bad& c : std::vector<Bad>{
-           {BUILD, "1|x", true},
-           {BUILD_NUMBERED, "1|1|a|1^1|1", true},
-           {BUILD_GCARD, "1|NVIDIA|GeForce 940MX|2 GB|GDDR5|", true},
-           {BUILD_MEREVLEMEZ, "0^1", true},
-           {BUILD_KIJELZO, "15.6|Full HD|1920x1080|1|1|0", true},
-           {BUILD, "1 |x|1", false},
-           {BUILD, "1|DVD-RW|két", false},       // read before the text replaces it
-           {BUILD_NUMBERED, "1|1|x|1^", false},  // an empty entry has no number
-           {BUILD_GCARD, "1|Intel|HD||||2x", false},
-           {BUILD_MEREVLEMEZ, "1|500 GB|SSD||", false},  // no empty-means-0 here
-       }) {
-    if (c.missing)
-      EXPECT_THROW(c.build(c.stored), ListIndexError) << c.stored;
-    else
-      EXPECT_THROW(c.build(c.stored), ConversionError) << c.stored;
-  }
+  EXPECT_THROW(BUILD("1|x"), ListIndexError);
+  EXPECT_THROW(BUILD_NUMBERED("1|1|a|1^1|1"), ListIndexError);
+  EXPECT_THROW(BUILD_GCARD("1|NVIDIA|GeForce 940MX|2 GB|GDDR5|"), ListIndexError);
+  EXPECT_THROW(BUILD("1|DVD-RW|két"), ConversionError);       // read before the text replaces it
+  EXPECT_THROW(BUILD_NUMBERED("1|1|x|1^"), ConversionError);  // an empty entry has no number
+  EXPECT_THROW(BUILD_GCARD("1|Intel|HD||||2x"), ConversionError);
+  EXPECT_THROW(BUILD_MEREVLEMEZ("1|500 GB|SSD||"), ConversionError);  // no empty-means-0 here
 }
 
 }  // namespace

@@ -3,6 +3,9 @@
 // the default it gives, in column order, compared whole with tests/feeds/expected/quote_in_id.txt.
 #include <gtest/gtest.h>
 
+#include <tuple>
+#include <vector>
+
 #include "description/long_description.h"
 #include "description/short_description.h"
 #include "feeds/arukereso.h"
@@ -36,11 +39,7 @@ TEST(QuoteInId, EveryFieldPrintsItsErrorLinesAndGivesItsDefault) {
   DbSession db;
   db.server.reset_database();
   db.server.run_sql_file(source_path("tests/e2e/fixtures/catalogue.sql"));
-  const struct {
-    const char* name;
-    Field field;
-    const char* site;
-  } fields[] = {
+  const std::vector<std::tuple<const char*, Field, const char*>> fields = {
       FIELD(published, "hu"),
       FIELD(only_for_grando, "hu"),
       FIELD(GENERATE_TALMO_CIKKSZAM, "hu"),
@@ -76,14 +75,12 @@ TEST(QuoteInId, EveryFieldPrintsItsErrorLinesAndGivesItsDefault) {
       FIELD(GENERATE_HEUREKASK_IMGURL_ALTERNATIVE, "sk"),
       FIELD(GENERATE_HEUREKASK_PRICE_VAT, "sk"),
       FIELD(GENERATE_HEUREKASK_PARAM, "sk"),
-      FIELD(GENERATE_HEUREKASK_CATEGORYTEXT, "sk"),
-  };
+      FIELD(GENERATE_HEUREKASK_CATEGORYTEXT, "sk")};
   std::string console;
-  for (const auto& f : fields) {
+  for (const auto& [name, field, site] : fields) {
     CapturedStdout out;
-    const std::string value = f.field(db.query, "1'", f.site);
-    console +=
-        "== " + std::string(f.name) + " (" + f.site + ")\n" + out.text() + "-> " + value + "\n";
+    const std::string value = field(db.query, "1'", site);
+    console += "== " + std::string(name) + " (" + site + ")\n" + out.text() + "-> " + value + "\n";
   }
   expect_same_text(read_file(source_path("tests/feeds/expected/quote_in_id.txt")), console);
 }
