@@ -1,15 +1,24 @@
 #include "core/statements.h"
 
 namespace talmo::statements {
+namespace {
+
+// Columns joined by ", ", one separator between every two, even around an empty name.
+std::string column_list_of(const StringList& columns) {
+  std::string list;
+  for (std::size_t i = 0; i < columns.size(); ++i)
+    list += (i == 0 ? "" : ", ") + columns[i];
+  return list;
+}
+
+}  // namespace
 
 Statement product_ids() {
   return {StatementKind::product_ids, {}, "SELECT id FROM laptop_adatbazis ORDER BY id DESC;"};
 }
 
 Statement product_columns(const StringList& columns, const std::string& IDX) {
-  std::string column_list;
-  for (const std::string& column : columns)
-    column_list += (column_list.empty() ? "" : ", ") + column;
+  const std::string column_list = column_list_of(columns);
   StringList parameters = columns;
   parameters.push_back(IDX);
   return {StatementKind::product_columns, std::move(parameters),
@@ -17,13 +26,10 @@ Statement product_columns(const StringList& columns, const std::string& IDX) {
 }
 
 Statement price_amounts(const std::string& IDX) {
-  std::string column_list;
-  for (const std::string& column : price_amount_columns())
-    column_list += (column_list.empty() ? "" : ", ") + column;
   return {StatementKind::price_amounts,
           {IDX},
-          "SELECT " + column_list + " FROM laptop_adatbazis WHERE id='" + IDX +
-              "' ORDER BY id DESC LIMIT 1;"};
+          "SELECT " + column_list_of(price_amount_columns()) + " FROM laptop_adatbazis WHERE id='" +
+              IDX + "' ORDER BY id DESC LIMIT 1;"};
 }
 
 const StringList& price_amount_columns() {

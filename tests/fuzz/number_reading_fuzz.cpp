@@ -73,11 +73,13 @@ void check_integer(const std::string& text) {
   }
 }
 
-// A finite number printed with at most 15 figures reads back to the 15-figure rounding of it,
-// and printing that gives the same text again.
+// A finite number printed with at most 15 figures (no exponent) reads back to the 15-figure
+// rounding of it, and printing that gives the same text again.
 void check_printed(double value) {
   const std::string printed = format_general(value);
   FUZZ_CHECK(number_grammar(printed) && !holds(printed, "e") && !holds(printed, "+"));
+  // No trailing zeros after a point, and no point without figures after it.
+  FUZZ_CHECK(!holds(printed, ".") || (printed.back() != '0' && printed.back() != '.'));
   char reference[64];
   std::snprintf(reference, sizeof reference, "%.15g", value);
   const double read_back = to_number(printed);

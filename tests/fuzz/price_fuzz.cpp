@@ -1,6 +1,7 @@
-// The site's price ending and the printed price on any double. Input: a byte choosing the site
+// The site's price ending on any double; a printed price reads back to the same double (how
+// prices are printed is checked over any number in number_reading_fuzz). Input: a byte choosing the
+// site
 // ("hu", "sk", "cz" or another code), then the eight bytes of the computed price.
-#include <algorithm>
 #include <cmath>
 #include <cstring>
 
@@ -12,14 +13,9 @@
 namespace talmo::fuzzing {
 namespace {
 
-// Nearest integer, a tie going to the even neighbour, worked out from the floor.
+// Nearest integer, a tie going to the even neighbour (the default rounding mode).
 double nearest_even(double value) {
-  const double below = std::floor(value);
-  const double above = below + 1;
-  const double from_below = value - below;
-  if (from_below != 0.5)
-    return from_below < 0.5 ? below : above;
-  return std::fmod(below, 2) == 0 ? below : above;
+  return std::nearbyint(value);
 }
 
 bool fits_int32(double rounded) {
@@ -75,33 +71,6 @@ void check_ending(double value, const std::string& site) {
   }
 }
 
-void check_printed(double value) {
-  const std::string printed = format_general(value);
-  if (std::isnan(value)) {
-    FUZZ_CHECK(printed == "NAN");
-    return;
-  }
-  if (std::isinf(value)) {
-    FUZZ_CHECK(printed == (value > 0 ? "INF" : "-INF"));
-    return;
-  }
-  // No exponent, no thousands separator, no trailing zeros after the point, 15 figures at most.
-  FUZZ_CHECK(printed.find_first_not_of("-.0123456789") == std::string::npos);
-  const std::size_t point = printed.find('.');
-  if (point != std::string::npos)
-    FUZZ_CHECK(printed.back() != '0' && printed.back() != '.');
-  std::string figures = printed;
-  figures.erase(
-      std::remove_if(figures.begin(), figures.end(), [](char c) { return c == '-' || c == '.'; }),
-      figures.end());
-  figures.erase(0, figures.find_first_not_of('0'));
-  if (point != std::string::npos || figures.size() <= 15) {
-    FUZZ_CHECK(figures.size() <= 15);
-  } else {
-    FUZZ_CHECK(figures.find_last_not_of('0') < 15);  // a large whole number ends in zeros
-  }
-}
-
 }  // namespace
 }  // namespace talmo::fuzzing
 
@@ -113,7 +82,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string site = kSites[data[0] % 4];
   double value = 0;
   std::memcpy(&value, data + 1, sizeof value);
-  check_printed(value);
   check_ending(value, site);
   return 0;
 }
