@@ -1,8 +1,10 @@
 // The tool's cursor against the private server: a fixture written by the command-line client
-// reads back unchanged through the tool's connection, and line ends reach the server as "\n".
+// reads back unchanged through the tool's connection, line ends reach the server as "\n", and
+// the error lines of a failed lookup carry the statement as kept.
 #include <gtest/gtest.h>
 
 #include "core/database.h"
+#include "core/lookup.h"
 #include "core/statements.h"
 #include "tests/support/test_support.h"
 
@@ -48,6 +50,21 @@ TEST(Database, LineEndsInAStatementReachTheServerAsLineFeeds) {
       EXPECT_EQ(db.query.field_text("v"), c.value) << c.text;
     }
   }
+}
+
+TEST(Lookups, ErrorLinesCarryTheStatementWithItsLineEnds) {
+  Connection connection;  // never opened: setting a statement does not touch the database
+  Query query(connection);
+  // CRLF, a lone CR and a lone LF inside a value each end a line of the kept text.
+  query.set_statement(Statement(StatementKind::unlisted, {}, "SELECT 'a\r\nb\rc\n';"));
+  const std::string kept = "SELECT 'a\nb\nc\n';\n";
+  EXPECT_EQ(query_error_line(query, QueryErrorLine::plain, "boom"),
+            "Error in Query: \r\r" + kept + "\r\r");
+  EXPECT_EQ(query_error_line(query, QueryErrorLine::with_message, "boom"),
+            "Error in Query: \r\r" + kept + "\r\rSQL Return Message: \r\rboom");
+  EXPECT_EQ(query_error_line(query, QueryErrorLine::with_error_message, "boom"),
+            "Error in Query: " + kept + " | Error Message: boom");
+  EXPECT_EQ(query_error_line(query, QueryErrorLine::id_list, "boom"), kept + "|boom");
 }
 
 }  // namespace

@@ -7,7 +7,6 @@
 #include <cstdio>
 
 #include "core/errors.h"
-#include "tests/support/subprocess.h"
 #include "tests/support/test_support.h"
 
 namespace talmo::testing {
@@ -52,16 +51,6 @@ TEST(GoldenCatalogue, FeedsAndConsole) {
   }
 }
 
-// The generator's catalogue, made with `options`, loaded into an empty database.
-void load_catalogue(const std::string& options) {
-  const RunResult generated = run_process(
-      {"sh", "-c", "python3 " + source_path("tools/generate_sample_catalogue.py ") + options}, "",
-      "", {}, 120);
-  ASSERT_EQ(generated.exit_code, 0) << generated.err;
-  PrivateMariaDb::instance().reset_database();
-  PrivateMariaDb::instance().run_sql(generated.out);
-}
-
 // The server's count of statements received so far.
 std::int64_t statements_received(DbSession& db) {
   db.query.set_statement(
@@ -79,7 +68,7 @@ class SnapshotModes : public ::testing::TestWithParam<const char*> {};
 // The point of the snapshot besides: a few whole-table reads and each other statement once,
 // where one statement per lookup costs hundreds per product.
 TEST_P(SnapshotModes, FeedsAndConsoleAreTheSameFromFewerStatements) {
-  ASSERT_NO_FATAL_FAILURE(load_catalogue(GetParam()));
+  PrivateMariaDb::instance().load_sample_catalogue(GetParam());
   DbSession db;
   TempDir dir;
   prepare_run_directory(dir.path());

@@ -32,20 +32,11 @@ const std::string kClosing = "Software Finished succesfully. Press ENTER to quit
 // at each moment (a snapshot run of this small catalogue is over before its lines are seen).
 const Environment kOneByOne = {{"TALMO_SNAPSHOT", "off"}};
 
-void load_catalogue() {
-  const RunResult sample = run_process(
-      {"python3", source_path("tools/generate_sample_catalogue.py"), "--products", "60"}, "", "",
-      {}, 60);
-  ASSERT_EQ(sample.exit_code, 0) << sample.err;
-  PrivateMariaDb::instance().reset_database();
-  PrivateMariaDb::instance().run_sql(sample.out);
-}
-
 class Faults : public ::testing::Test {
  protected:
   // The feeds of a healthy run: what a complete feed must look like.
   static void SetUpTestSuite() {
-    load_catalogue();
+    PrivateMariaDb::instance().load_sample_catalogue("--products 60");
     TempDir dir;
     prepare_run_directory(dir.path());
     ASSERT_EQ(run_tool(dir.path(), kAllYes, {}, kOneByOne).exit_code, 0);
@@ -129,7 +120,7 @@ TEST_F(Faults, MidRunFaultsLeaveOldOrCompleteFeeds) {
     expect_feeds(refreshed);
     if (to_server && signal == SIGKILL) {
       server.restart();
-      load_catalogue();
+      PrivateMariaDb::instance().load_sample_catalogue("--products 60");
     }
   }
   write_file(dir_ + "/export/sk/.heureka.xml.tmp-Ab12Cd", "half a feed");
@@ -174,13 +165,6 @@ TEST_F(Faults, ConfigDatThatIsNoPlainFileIsNeverTouched) {
     EXPECT_EQ(fs::status(config).type(), kind);
     EXPECT_EQ(entries_in(dir_), 3u);  // config.dat, export, the executable
   }
-}
-
-TEST_F(Faults, ClosedStandardInputAnswersNoToEverything) {
-  BackgroundTool tool(dir_, "<&-");
-  EXPECT_EQ(tool.wait(60), 0);
-  EXPECT_EQ(tool.out().find("Beginning"), std::string::npos) << tool.out();
-  EXPECT_TRUE(tool.out().ends_with("\nHEUREKA.SK export skipped\n" + kClosing)) << tool.out();
 }
 
 TEST_F(Faults, SecondRunInTheSameDirectoryStopsAtOnce) {

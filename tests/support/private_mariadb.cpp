@@ -112,6 +112,16 @@ void PrivateMariaDb::reset_database() const {
   run_sql_file(source_path("db/schema.sql"));
 }
 
+void PrivateMariaDb::load_sample_catalogue(const std::string& options) const {
+  const RunResult sample = run_process(
+      {"sh", "-c", "python3 " + source_path("tools/generate_sample_catalogue.py ") + options}, "",
+      "", {}, 120);
+  if (sample.exit_code != 0)
+    throw std::runtime_error("the sample catalogue was not made: " + sample.err);
+  reset_database();
+  run_sql(sample.out);
+}
+
 void PrivateMariaDb::signal_server(int signal) const {
   if (pid_ > 0)
     ::kill(pid_, signal);

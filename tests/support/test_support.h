@@ -35,6 +35,8 @@ class PrivateMariaDb {
   // Runs `sql` as root in uj_db (UTF-8 on the wire); throws with the client's errors.
   void run_sql(const std::string& sql) const { run_client("USE uj_db;\n" + sql); }
   void run_sql_file(const std::string& path) const { run_sql(read_file(path)); }
+  // Empties uj_db and loads tools/generate_sample_catalogue.py's catalogue made with `options`.
+  void load_sample_catalogue(const std::string& options) const;
   // Drops and recreates uj_db from db/schema.sql: every table empty.
   void reset_database() const;
   // SIGSTOP freezes the server, SIGCONT thaws it, SIGKILL kills it.
