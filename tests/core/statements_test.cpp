@@ -28,6 +28,11 @@ TEST(Statements, EachKindSplicesItsValuesAsTheyAre) {
             K::product_columns,
             {"sorszam", "gyarto", "7"},
             "SELECT sorszam, gyarto FROM laptop_adatbazis WHERE id='7';"},
+           // Found by fuzzing: a leading empty name still gets its separator.
+           {s::product_columns({"", "gyarto"}, "7"),
+            K::product_columns,
+            {"", "gyarto", "7"},
+            "SELECT , gyarto FROM laptop_adatbazis WHERE id='7';"},
            {s::translation("Kijelzõ részletei:", "SK"),
             K::translation,
             {"Kijelzõ részletei:", "SK"},
