@@ -74,6 +74,11 @@ class HeurekaChecker : public ItemChecker {
       check_address(image, "IMGURL", true, findings);
       check_length(image, "IMGURL", kMaxImageUrl, findings);
     }
+    // Further pictures are not required, but one that is given must be a usable address.
+    for (const Field& field : item.fields) {
+      if (field.name == "IMGURL_ALTERNATIVE" && !field.value.empty())
+        check_address(&field, field.name, true, findings);
+    }
     check_price(item.find("PRICE_VAT"), "PRICE_VAT", euro_prices(), findings);
     const Field* category = item.find("CATEGORYTEXT");
     if (check_present(category, "CATEGORYTEXT", findings)) {

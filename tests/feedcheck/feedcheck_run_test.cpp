@@ -14,10 +14,11 @@ namespace {
 
 // Each feed set under tests/feedcheck/feeds/ plants one case of every rule it is named for (an
 // item rule per item, a whole-file rule per file). The reports under tests/feedcheck/expected/
-// were captured from the checker once, then read line by line by a second engineer against the
-// feed checker's rules in the README and the manual page: kind, item key, field, what and text of
-// every problem, the twenty listed per kind, the price moves against the previous run's price,
-// the summary and the exit status.
+// were captured from the checker once, then read line by line against the feed checker's rules
+// in the README and the manual page, by the engineer who made the sets and again by a second one
+// who did not look at the checker's code: kind, item key, field, what and text of every problem,
+// the twenty listed per kind, the price moves against the previous run's price, the summary and
+// the exit status.
 TEST(FeedcheckReport, WholeReportsOfHandMadeFeeds) {
   const std::string previous = feeds_path("previous");
   const struct {
