@@ -18,10 +18,7 @@ using Description = std::string (*)(Query&, const std::string&, const std::strin
 
 class LongDescription : public ::testing::Test {
  protected:
-  static void SetUpTestSuite() {
-    PrivateMariaDb::instance().reset_database();
-    PrivateMariaDb::instance().run_sql_file(source_path("tests/e2e/fixtures/catalogue.sql"));
-  }
+  static void SetUpTestSuite() { PrivateMariaDb::instance().load_golden_catalogue(); }
   void SetUp() override { TALMO_NEEDS_DEFAULT_SITE(); }
 
   DbSession plain_;

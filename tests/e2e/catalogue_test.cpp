@@ -33,8 +33,7 @@ std::vector<std::string> run_all_exports(const std::string& dir, const Environme
 
 TEST(GoldenCatalogue, FeedsAndConsole) {
   TALMO_NEEDS_DEFAULT_SITE();
-  PrivateMariaDb::instance().reset_database();
-  PrivateMariaDb::instance().run_sql_file(source_path("tests/e2e/fixtures/catalogue.sql"));
+  PrivateMariaDb::instance().load_golden_catalogue();
   TempDir dir;
   prepare_run_directory(dir.path());
   const std::vector<std::string> outputs = run_all_exports(dir.path());

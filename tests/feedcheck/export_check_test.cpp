@@ -11,8 +11,7 @@ namespace {
 // of the hand-made feeds: every problem it lists is one the golden catalogue plants on purpose.
 TEST(CheckAfterExport, TheFiveFeedsOfARealRun) {
   TALMO_NEEDS_DEFAULT_SITE();
-  PrivateMariaDb::instance().reset_database();
-  PrivateMariaDb::instance().run_sql_file(source_path("tests/e2e/fixtures/catalogue.sql"));
+  PrivateMariaDb::instance().load_golden_catalogue();
   TempDir dir;
   prepare_run_directory(dir.path());
   const RunResult exported = run_tool(dir.path(), "y\ny\ny\ny\ny\n\n");

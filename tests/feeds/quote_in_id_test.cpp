@@ -37,8 +37,7 @@ std::string only_for_grando(Query& query, const std::string& idx, const std::str
 TEST(QuoteInId, EveryFieldPrintsItsErrorLinesAndGivesItsDefault) {
   TALMO_NEEDS_DEFAULT_SITE();
   DbSession db;
-  db.server.reset_database();
-  db.server.run_sql_file(source_path("tests/e2e/fixtures/catalogue.sql"));
+  db.server.load_golden_catalogue();
   const std::vector<std::tuple<const char*, Field, const char*>> fields = {
       FIELD(published, "hu"),
       FIELD(only_for_grando, "hu"),

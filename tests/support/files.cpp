@@ -4,8 +4,8 @@
 #include <filesystem>
 #include <fstream>
 #include <regex>
-#include <sstream>
 
+#include "core/file_input.h"
 #include "site_config.h"
 #include "tests/support/test_support.h"
 
@@ -26,11 +26,9 @@ TempDir::~TempDir() {
 }
 
 std::string read_file(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::ostringstream content;
-  if (!(content << in.rdbuf()) && !in)
-    throw std::runtime_error("cannot read " + path);
-  return content.str();
+  if (std::optional<std::string> content = read_whole_file(path))
+    return *content;
+  throw std::runtime_error("cannot read " + path);
 }
 
 void write_file(const std::string& path, const std::string& content) {

@@ -122,6 +122,11 @@ void PrivateMariaDb::load_sample_catalogue(const std::string& options) const {
   run_sql(sample.out);
 }
 
+void PrivateMariaDb::load_golden_catalogue() const {
+  reset_database();
+  run_sql_file(source_path("tests/e2e/fixtures/catalogue.sql"));
+}
+
 void PrivateMariaDb::signal_server(int signal) const {
   if (pid_ > 0)
     ::kill(pid_, signal);

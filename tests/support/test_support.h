@@ -37,6 +37,8 @@ class PrivateMariaDb {
   void run_sql_file(const std::string& path) const { run_sql(read_file(path)); }
   // Empties uj_db and loads tools/generate_sample_catalogue.py's catalogue made with `options`.
   void load_sample_catalogue(const std::string& options) const;
+  // Empties uj_db and loads the golden catalogue (tests/e2e/fixtures/catalogue.sql).
+  void load_golden_catalogue() const;
   // Drops and recreates uj_db from db/schema.sql: every table empty.
   void reset_database() const;
   // SIGSTOP freezes the server, SIGCONT thaws it, SIGKILL kills it.
