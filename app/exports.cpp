@@ -18,23 +18,22 @@ using ListOperation = void (*)(Query& VAR_QUERY, StringList& list, const std::st
 // Every product id, newest first, with a counting line per id.
 void list_product_ids(Query& query, StringList& ids) {
   query.set_statement(statements::product_ids());
-  try {
-    query.open();
-    query.last();
-    if (query.record_count() > 0) {
-      query.first();
-      while (!query.eof()) {
-        ids.push_back(query.field_text("id"));
-        write_line("Allready added: " + std::to_string(ids.size()));
-        query.next();
-      }
-    }
-    query.close();
-  } catch (const ConnectionLost&) {
-    throw;
-  } catch (const TalmoError& error) {
-    write_line(query_error_line(query, QueryErrorLine::id_list, error.what()));
-  }
+  guard_lookup(
+      query,
+      [&] {
+        query.open();
+        query.last();
+        if (query.record_count() > 0) {
+          query.first();
+          while (!query.eof()) {
+            ids.push_back(query.field_text("id"));
+            write_line("Allready added: " + std::to_string(ids.size()));
+            query.next();
+          }
+        }
+        query.close();
+      },
+      QueryErrorLine::id_list);
 }
 
 void run_export(RunContext& run, const std::string& site, const std::string& starting_line,

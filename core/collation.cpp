@@ -1,5 +1,7 @@
 #include "core/collation.h"
 
+#include "core/strings.h"
+
 namespace talmo {
 namespace {
 
@@ -21,16 +23,12 @@ std::int64_t decimal_value(std::string_view digits) {
 }  // namespace
 
 std::optional<std::string> comparable_key(std::string_view key) {
-  std::string folded;
-  folded.reserve(key.size());
   for (const char c : key) {
     if (c < ' ' || c > '~')
       return std::nullopt;
-    folded += (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
   }
-  while (!folded.empty() && folded.back() == ' ')
-    folded.pop_back();
-  return folded;
+  const std::size_t last = key.find_last_not_of(' ');
+  return lower_ascii(key.substr(0, last == std::string_view::npos ? 0 : last + 1));
 }
 
 std::optional<std::int64_t> canonical_id_value(std::string_view text) {

@@ -1,7 +1,9 @@
 #include "core/snapshot.h"
 
 #include <algorithm>
+#include <initializer_list>
 #include <span>
+#include <string_view>
 
 #include "core/collation.h"
 #include "core/errors.h"
@@ -12,7 +14,7 @@ namespace {
 // How a row's key stands to the key a statement asks for.
 enum class KeyMatch { yes, no, unknown };
 
-KeyMatch key_match(const std::optional<std::string>& cell, const std::string& wanted) {
+KeyMatch key_match(const std::optional<std::string>& cell, std::string_view wanted) {
   if (!cell)
     return KeyMatch::no;  // NULL equals nothing
   const std::optional<std::string> key = comparable_key(*cell);
@@ -21,16 +23,51 @@ KeyMatch key_match(const std::optional<std::string>& cell, const std::string& wa
   return *key == wanted ? KeyMatch::yes : KeyMatch::no;
 }
 
+// A test of a statement's WHERE clause: the row's key in `column` equals `wanted`.
+struct KeyTest {
+  std::size_t column;
+  std::string_view wanted;
+};
+
 // Whether a row passes every key test: yes, no, or unknown when no test says no and one cannot
 // be decided.
-KeyMatch all_match(std::initializer_list<KeyMatch> matches) {
+KeyMatch row_match(const ResultSet::Row& cells, std::initializer_list<KeyTest> tests) {
   KeyMatch result = KeyMatch::yes;
-  for (const KeyMatch match : matches) {
+  for (const KeyTest& test : tests) {
+    const KeyMatch match = key_match(cells[test.column], test.wanted);
     if (match == KeyMatch::no)
       return KeyMatch::no;
     if (match == KeyMatch::unknown)
       result = KeyMatch::unknown;
   }
+  return result;
+}
+
+// The answer that gives column `value` (named `name`) of the `candidates` of `table` passing
+// every test, in their order, or of the last of them alone (the newest, ids ascending) when
+// `newest_only`. nullopt when a test cannot be decided for some candidate.
+std::optional<ResultSet> column_of_passing_rows(const WholeTable& table,
+                                                std::span<const std::size_t> candidates,
+                                                std::initializer_list<KeyTest> tests,
+                                                std::size_t value, const std::string& name,
+                                                bool newest_only) {
+  ResultSet result;
+  result.column_names = {name};
+  std::optional<std::size_t> newest;
+  for (const std::size_t row : candidates) {
+    const ResultSet::Row& cells = table.rows()[row];
+    const KeyMatch match = row_match(cells, tests);
+    if (match == KeyMatch::unknown)
+      return std::nullopt;
+    if (match == KeyMatch::no)
+      continue;
+    if (newest_only)
+      newest = row;
+    else
+      result.rows.push_back({cells[value]});
+  }
+  if (newest)
+    result.rows.push_back({table.rows()[*newest][value]});
   return result;
 }
 
@@ -216,128 +253,82 @@ std::optional<ResultSet> Snapshot::product_in_category(const std::string& IDX,
   const std::optional<std::string> wanted = literal_key(category_id);
   if (!canonical_id_value(IDX) || !wanted)
     return std::nullopt;
-  WholeTable* links_table = table(category_links_, "product_categories", "prod_cat_id");
-  if (links_table == nullptr)
+  WholeTable* links = table(category_links_, "product_categories", "prod_cat_id");
+  if (links == nullptr)
     return std::nullopt;
-  WholeTable& links = *links_table;
-  const auto id = links.column("prod_cat_id");
-  const auto type = links.column("prod_cat_type_id");
-  const auto product = links.column("prod_cat_product_id");
-  const auto category = links.column("prod_cat_category_id");
+  const auto id = links->column("prod_cat_id");
+  const auto type = links->column("prod_cat_type_id");
+  const auto product = links->column("prod_cat_product_id");
+  const auto category = links->column("prod_cat_category_id");
   if (!id || !type || !product || !category)
     return std::nullopt;
-  const std::optional<std::span<const std::size_t>> candidates = links.rows_with_key(*product, IDX);
+  const std::optional<std::span<const std::size_t>> candidates =
+      links->rows_with_key(*product, IDX);
   if (!candidates)
     return std::nullopt;
-  ResultSet result;
-  result.column_names = {"prod_cat_id"};
   // No order asked: the server gives these rows by ascending prod_cat_id, as they stand here.
-  for (const std::size_t row : *candidates) {
-    const ResultSet::Row& cells = links.rows()[row];
-    const KeyMatch match =
-        all_match({key_match(cells[*type], "0"), key_match(cells[*category], *wanted)});
-    if (match == KeyMatch::unknown)
-      return std::nullopt;
-    if (match == KeyMatch::yes)
-      result.rows.push_back({cells[*id]});
-  }
-  return result;
+  return column_of_passing_rows(*links, *candidates, {{*type, "0"}, {*category, *wanted}}, *id,
+                                "prod_cat_id", false);
 }
 
 std::optional<ResultSet> Snapshot::product_currency(const std::string& IDX) {
   if (!canonical_id_value(IDX))
     return std::nullopt;
-  WholeTable* currencies_table = table(currencies_, "product_valuta", "prod_val_id");
-  if (currencies_table == nullptr)
+  WholeTable* currencies = table(currencies_, "product_valuta", "prod_val_id");
+  if (currencies == nullptr)
     return std::nullopt;
-  WholeTable& currencies = *currencies_table;
-  const auto type = currencies.column("prod_val_product_type_id");
-  const auto product = currencies.column("prod_val_product_id");
-  const auto currency = currencies.column("prod_val_valuta");
+  const auto type = currencies->column("prod_val_product_type_id");
+  const auto product = currencies->column("prod_val_product_id");
+  const auto currency = currencies->column("prod_val_valuta");
   if (!type || !product || !currency)
     return std::nullopt;
   const std::optional<std::span<const std::size_t>> candidates =
-      currencies.rows_with_key(*product, IDX);
+      currencies->rows_with_key(*product, IDX);
   if (!candidates)
     return std::nullopt;
-  ResultSet result;
-  result.column_names = {"prod_val_valuta"};
-  std::optional<std::size_t> newest;
-  for (const std::size_t row : *candidates) {
-    const KeyMatch match = key_match(currencies.rows()[row][*type], "0");
-    if (match == KeyMatch::unknown)
-      return std::nullopt;
-    if (match == KeyMatch::yes)
-      newest = row;  // ascending ids: the last match is the newest
-  }
-  if (newest)
-    result.rows.push_back({currencies.rows()[*newest][*currency]});
-  return result;
+  return column_of_passing_rows(*currencies, *candidates, {{*type, "0"}}, *currency,
+                                "prod_val_valuta", true);
 }
 
 std::optional<ResultSet> Snapshot::fixed_price(const std::string& SITE, const std::string& IDX) {
   const std::string column_name = "fix_ar_" + SITE;
   if (!canonical_id_value(IDX) || !is_identifier(SITE))
     return std::nullopt;
-  WholeTable* prices_table = table(fixed_prices_, "fix_arak", "fix_id");
-  if (prices_table == nullptr)
+  WholeTable* prices = table(fixed_prices_, "fix_arak", "fix_id");
+  if (prices == nullptr)
     return std::nullopt;
-  WholeTable& prices = *prices_table;
-  const auto price = prices.column(column_name);
-  const auto product = prices.column("fix_product_id");
-  const auto type = prices.column("fix_product_type_id");
+  const auto price = prices->column(column_name);
+  const auto product = prices->column("fix_product_id");
+  const auto type = prices->column("fix_product_type_id");
   if (!price || !product || !type)
     return std::nullopt;
   const std::optional<std::span<const std::size_t>> candidates =
-      prices.rows_with_key(*product, IDX);
+      prices->rows_with_key(*product, IDX);
   if (!candidates)
     return std::nullopt;
-  ResultSet result;
-  result.column_names = {column_name};
-  std::optional<std::size_t> newest;
-  for (const std::size_t row : *candidates) {
-    const KeyMatch match = key_match(prices.rows()[row][*type], "0");
-    if (match == KeyMatch::unknown)
-      return std::nullopt;
-    if (match == KeyMatch::yes)
-      newest = row;
-  }
-  if (newest)
-    result.rows.push_back({prices.rows()[*newest][*price]});
-  return result;
+  return column_of_passing_rows(*prices, *candidates, {{*type, "0"}}, *price, column_name, true);
 }
 
 std::optional<ResultSet> Snapshot::extra_texts(const std::string& IDX, const std::string& SITE) {
   const std::optional<std::string> site = literal_key(SITE);
   if (!canonical_id_value(IDX) || !site)
     return std::nullopt;
-  WholeTable* extras_table = table(extra_texts_, "extra_jellemzo", "ex_id");
-  if (extras_table == nullptr)
+  WholeTable* extras = table(extra_texts_, "extra_jellemzo", "ex_id");
+  if (extras == nullptr)
     return std::nullopt;
-  WholeTable& extras = *extras_table;
-  const auto type = extras.column("ex_product_type_id");
-  const auto product = extras.column("ex_product_id");
-  const auto site_column = extras.column("ex_site");
-  const auto text = extras.column("ex_text");
+  const auto type = extras->column("ex_product_type_id");
+  const auto product = extras->column("ex_product_id");
+  const auto site_column = extras->column("ex_site");
+  const auto text = extras->column("ex_text");
   if (!type || !product || !site_column || !text)
     return std::nullopt;
   const std::optional<std::span<const std::size_t>> candidates =
-      extras.rows_with_key(*product, IDX);
+      extras->rows_with_key(*product, IDX);
   if (!candidates)
     return std::nullopt;
-  ResultSet result;
-  result.column_names = {"ex_text"};
   // No order asked: the server gives these rows by ascending ex_id, as they stand here.
-  for (const std::size_t row : *candidates) {
-    const ResultSet::Row& cells = extras.rows()[row];
-    const KeyMatch match =
-        all_match({key_match(cells[*type], "0"), key_match(cells[*site_column], *site)});
-    if (match == KeyMatch::unknown)
-      return std::nullopt;
-    if (match == KeyMatch::yes)
-      result.rows.push_back({cells[*text]});
-  }
-  return result;
+  return column_of_passing_rows(*extras, *candidates, {{*type, "0"}, {*site_column, *site}}, *text,
+                                "ex_text", false);
 }
 
 WholeTable* Snapshot::table(TableSlot& slot, const char* name, const char* id_column) {
