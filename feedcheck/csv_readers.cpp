@@ -84,42 +84,45 @@ std::optional<FileProblem> read_quoted_records(FileReader& file, const ItemHandl
         on_record(record.finish());
       return std::nullopt;
     }
-    const bool line_end = state != State::Quoted && take_line_end(c, input);
-    switch (state) {
-      case State::FieldStart:
+    if (state != State::Quoted) {
+      // Outside quotes a line end finishes the record and a comma the field, in every state.
+      const bool line_end = take_line_end(c, input);
+      if (state == State::FieldStart) {
         if (line_end && record.empty()) {
           ++line;
-          break;
+          continue;
         }
         record.start(line);
-        if (line_end) {
-          finish_record();
-          ++line;
-        } else if (c == '"') {
+      }
+      if (line_end) {
+        finish_record();
+        ++line;
+        continue;
+      }
+      if (c == ',') {
+        record.end_field();
+        state = State::FieldStart;
+        continue;
+      }
+    }
+    switch (state) {
+      case State::FieldStart:
+        if (c == '"') {
           record.open_quote();
           quote_line = line;
           state = State::Quoted;
-        } else if (c == ',') {
-          record.end_field();
         } else {
           record.add(static_cast<char>(c));
           state = State::Unquoted;
         }
         break;
       case State::Unquoted:
-        if (line_end) {
-          finish_record();
-          ++line;
-        } else if (c == ',') {
-          record.end_field();
-          state = State::FieldStart;
-        } else if (c == '"') {
+        if (c == '"') {
           return split_problem(line, "a double quote inside field " +
                                          std::to_string(record.field_number()) +
                                          ", which does not start with one");
-        } else {
-          record.add(static_cast<char>(c));
         }
+        record.add(static_cast<char>(c));
         break;
       case State::Quoted:
         if (c == '"') {
@@ -131,19 +134,12 @@ std::optional<FileProblem> read_quoted_records(FileReader& file, const ItemHandl
         }
         break;
       case State::AfterQuote:
-        if (line_end) {
-          finish_record();
-          ++line;
-        } else if (c == ',') {
-          record.end_field();
-          state = State::FieldStart;
-        } else if (c == '"') {
-          record.add('"');
-          state = State::Quoted;
-        } else {
+        if (c != '"') {
           return split_problem(line, "text after the closing quote of field " +
                                          std::to_string(record.field_number()));
         }
+        record.add('"');
+        state = State::Quoted;
         break;
     }
   }

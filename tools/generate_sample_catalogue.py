@@ -775,35 +775,36 @@ def make_hostile(dice, tables, category_ids):
             links[filed[len(filed) // 2]] = (type_id, pid, cat + " ")
 
 
-def descending_ids(rows, key):
-    """Each row prefixed with an id; rows of one key get ids falling in insertion order."""
+def grouped_ids(rows, key, arrange):
+    """Each row prefixed with an id; the rows of one key share a run of consecutive ids, which
+    `arrange` lays out among them (it gets the run in rising order and returns it rearranged)."""
     result = []
     groups = {}
     for row in rows:
         groups.setdefault(key(row).strip().lower(), []).append(row)
     next_id = 1
     for group in groups.values():
-        for offset, row in enumerate(group):
-            result.append((next_id + len(group) - 1 - offset,) + tuple(row))
+        ids = arrange(list(range(next_id, next_id + len(group))))
+        result += [(ids[i],) + tuple(row) for i, row in enumerate(group)]
         next_id += len(group)
     return result
+
+
+def descending_ids(rows, key):
+    """Each row prefixed with an id; rows of one key get ids falling in insertion order."""
+    return grouped_ids(rows, key, lambda ids: ids[::-1])
 
 
 def shuffled_ids(dice, rows, key):
     """Each row prefixed with an id; the ids of one key's rows are shuffled among them."""
-    result = []
-    groups = {}
-    for row in rows:
-        groups.setdefault(key(row).strip().lower(), []).append(row)
-    next_id = 1
-    for group in groups.values():
-        ids = list(range(next_id, next_id + len(group)))
+
+    def shuffle(ids):
         for i in range(len(ids) - 1, 0, -1):
             j = dice.between(0, i)
             ids[i], ids[j] = ids[j], ids[i]
-        result += [(ids[i],) + tuple(row) for i, row in enumerate(group)]
-        next_id += len(group)
-    return result
+        return ids
+
+    return grouped_ids(rows, key, shuffle)
 
 
 def hostile_translations(dice, rows):
